@@ -1,0 +1,8 @@
+#pragma once
+// Everything a host needs: the toolkit and the host layer it builds on.
+#include "vornhost/VornHost.h"
+
+#include "vorn/Asset.h"
+#include "vorn/AssetManager.h"
+#include "vorn/VornAssert.h"
+#include "vorn/VornImageCache.h"

@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# Installs the build tree into a temporary prefix, then builds and runs a
+# small host program against the installation twice: through
+# find_package(Vorn) and through pkg-config.
+set -euo pipefail
+build_dir=$1
+consumer_src=$2
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+prefix=$work/prefix
+
+cmake --install "$build_dir" --prefix "$prefix" >/dev/null
+
+# 1. CMake package.
+cmake -S "$consumer_src" -B "$work/cmake-build" -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
+cmake --build "$work/cmake-build" >/dev/null
+out=$("$work/cmake-build/vorn_consumer")
+echo "find_package consumer: $out"
+[ "$out" = "consumer ok" ]
+
+# 2. pkg-config.
+export PKG_CONFIG_PATH="$prefix/lib/pkgconfig:$prefix/lib/x86_64-linux-gnu/pkgconfig:${PKG_CONFIG_PATH:-}"
+g++ -std=c++17 -o "$work/pc_consumer" "$consumer_src/consumer.cpp" $(pkg-config --cflags --libs vorn)
+out=$("$work/pc_consumer")
+echo "pkg-config consumer: $out"
+[ "$out" = "consumer ok" ]
