@@ -4,5 +4,8 @@
 
 #include "vorn/Asset.h"
 #include "vorn/AssetManager.h"
+#include "vorn/GraphicsFunctions.h"
+#include "vorn/UIFilters.h"
 #include "vorn/VornAssert.h"
+#include "vorn/VornGLTextureCache.h"
 #include "vorn/VornImageCache.h"
