@@ -64,7 +64,9 @@ class AntiAliasFilter : public Filter {
  private:
   Filter& m_target;
 };
-inline AntiAliasFilter AntiAlias(Filter& f) { return AntiAliasFilter(f); }
+inline AntiAliasFilter AntiAlias(Filter& f) {
+  return AntiAliasFilter(f);
+}
 
 // A view of the rectangle from (x1, y1) up to, not including, (x2, y2) of
 // another filter; coordinates are relative to (x1, y1). Reads and writes
@@ -78,7 +80,9 @@ class CropFilter : public Filter {
   int GetWidth() const override { return m_w; }
   int GetHeight() const override { return m_h; }
   bool Clear() override;
-  bool Create(int w, int h) override { return w == m_w && h == m_h; }
+  // Succeeds (and clears the view) only for the view's own size.
+  bool Create(int w, int h) override;
+  bool IsAntiAliased() const override { return m_target.IsAntiAliased(); }
 
  private:
   bool Inside(int x, int y) const { return x >= 0 && y >= 0 && x < m_w && y < m_h; }
@@ -111,7 +115,9 @@ class UnDoFilter : public Filter {
   int GetWidth() const override { return m_target.GetWidth(); }
   int GetHeight() const override { return m_target.GetHeight(); }
   bool Clear() override;
+  // Forgets the recorded changes: they cannot be put back into a resized image.
   bool Create(int w, int h) override;
+  bool IsAntiAliased() const override { return m_target.IsAntiAliased(); }
 
  private:
   Filter& m_target;
@@ -155,5 +161,9 @@ inline bool DrawArc(AntiAliasFilter&& f, int x1, int y1, int x2, int y2, const C
 inline bool DrawCircle(AntiAliasFilter&& f, int cx, int cy, int r, const ColorA& c, bool fill) {
   return DrawCircle(static_cast<Filter&>(f), cx, cy, r, c, fill);
 }
-inline bool Copy(CropFilter&& dst, const Filter& src) { return Copy(static_cast<Filter&>(dst), src); }
-inline bool Clear(CropFilter&& f, const ColorA& c) { return Clear(static_cast<Filter&>(f), c); }
+inline bool Copy(CropFilter&& dst, const Filter& src) {
+  return Copy(static_cast<Filter&>(dst), src);
+}
+inline bool Clear(CropFilter&& f, const ColorA& c) {
+  return Clear(static_cast<Filter&>(f), c);
+}
