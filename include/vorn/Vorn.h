@@ -5,6 +5,7 @@
 #include "vorn/Asset.h"
 #include "vorn/AssetManager.h"
 #include "vorn/GraphicsFunctions.h"
+#include "vorn/ImageScriptParser.h"
 #include "vorn/UIFilters.h"
 #include "vorn/ValInterface.h"
 #include "vorn/VirtualControl.h"
