@@ -98,6 +98,10 @@ class VornControlGroup {
  protected:
   // The registry work of DeRegister(id, keep) on this object's own maps.
   bool DeRegisterById(unsigned int id, bool keep);
+  bool InsertControl(unsigned int id, VornControl* control, VornString name, bool own);
+  bool InsertVirtual(unsigned int id, VirtualControl* control, bool own);
+  bool EraseControlEntry(std::map<unsigned int, VornControlEntry>::iterator it, bool keep);
+  bool EraseVirtualEntry(std::map<unsigned int, VirtualControlEntry>::iterator it, bool keep);
 
   VornControlGroup* m_pControlGroup = nullptr;  // parent; not owned
   std::map<unsigned int, VornControlEntry> m_controlsById;
@@ -106,6 +110,9 @@ class VornControlGroup {
   std::vector<VirtualControl*> m_virtualControls;
   std::vector<VornControlGroup*> m_groups;    // not owned
   std::vector<MessageReceiver*> m_receivers;  // not owned
+  // Counts changes of the two maps, so that walks over them survive members
+  // that register or deregister during the walk.
+  unsigned int m_generation = 0;
 };
 
 // Keeps one button of a set on.

@@ -164,6 +164,9 @@ class VornWindow : public wxWindow {
   void OnEraseBackground(wxEraseEvent& event);
   void OnVornKeyDown(wxKeyEvent& event);
   void OnVornKeyUp(wxKeyEvent& event);
+  // wx 3 takes a capture away (and requires this handler) when another
+  // window grabs the pointer; the captive flag follows.
+  void OnMouseCaptureLost(wxMouseCaptureLostEvent& event);
 
   wxColour m_fgColour;
   wxColour m_bgColour;  // copy of the wx background colour, see GetBgColour
