@@ -1,0 +1,313 @@
+// Writes the grey-scale mask pictures of the default skin. The image scripts
+// of the skin colour these masks; change a shape here, then regenerate:
+//
+//   build/<dir>/tools/vorn-maskgen assets/default/Generic/
+//
+// Every mask is drawn from signed distances (one pixel of anti-aliasing) or,
+// for glyphs, from thick line segments, so the output is exactly the same on
+// every run.
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "vornhost/Bitmap.h"
+
+namespace {
+
+// A grey picture with float coverage 0..1.
+struct Mask {
+  int w = 0, h = 0;
+  std::vector<float> v;
+  Mask(int width, int height) : w(width), h(height), v(static_cast<size_t>(width) * height, 0.f) {}
+  float& at(int x, int y) { return v[static_cast<size_t>(y) * w + x]; }
+  float get(int x, int y) const {
+    if (x < 0 || y < 0 || x >= w || y >= h) return 0.f;
+    return v[static_cast<size_t>(y) * w + x];
+  }
+};
+
+using Field = std::function<float(float x, float y)>;  // signed distance, < 0 inside
+
+float Clamp01(float f) {
+  return std::min(1.f, std::max(0.f, f));
+}
+
+Field RoundRect(float x0, float y0, float x1, float y1, float r) {
+  return [=](float px, float py) {
+    const float cx = (x0 + x1) / 2, cy = (y0 + y1) / 2;
+    const float qx = std::fabs(px - cx) - ((x1 - x0) / 2 - r);
+    const float qy = std::fabs(py - cy) - ((y1 - y0) / 2 - r);
+    const float ox = std::max(qx, 0.f), oy = std::max(qy, 0.f);
+    return std::sqrt(ox * ox + oy * oy) + std::min(std::max(qx, qy), 0.f) - r;
+  };
+}
+
+Field Circle(float cx, float cy, float r) {
+  return [=](float px, float py) { return std::hypot(px - cx, py - cy) - r; };
+}
+
+// A stroke of half-width hw along the segment a-b, with round ends.
+Field Segment(float ax, float ay, float bx, float by, float hw) {
+  return [=](float px, float py) {
+    const float dx = bx - ax, dy = by - ay;
+    const float t = Clamp01(((px - ax) * dx + (py - ay) * dy) / (dx * dx + dy * dy));
+    return std::hypot(px - (ax + t * dx), py - (ay + t * dy)) - hw;
+  };
+}
+
+Field Union(Field a, Field b) {
+  return [=](float x, float y) { return std::min(a(x, y), b(x, y)); };
+}
+Field Subtract(Field a, Field b) {
+  return [=](float x, float y) { return std::max(a(x, y), -b(x, y)); };
+}
+
+// Coverage of a pixel, sampled at its centre with a one-pixel ramp.
+Mask Fill(int w, int h, const Field& f) {
+  Mask m(w, h);
+  for (int y = 0; y < h; ++y)
+    for (int x = 0; x < w; ++x) m.at(x, y) = Clamp01(0.5f - f(x + 0.5f, y + 0.5f));
+  return m;
+}
+
+// Per-pixel combination of masks.
+Mask Combine(const Mask& a, const std::function<float(int x, int y, float v)>& op) {
+  Mask m(a.w, a.h);
+  for (int y = 0; y < a.h; ++y)
+    for (int x = 0; x < a.w; ++x) m.at(x, y) = Clamp01(op(x, y, a.get(x, y)));
+  return m;
+}
+
+Mask Minus(const Mask& a, const Mask& b) {
+  return Combine(a, [&](int x, int y, float v) { return v - b.get(x, y); });
+}
+
+bool Save(const std::string& dir, const std::string& name, const Mask& m) {
+  Bitmap bmp;
+  if (!Create(bmp, m.w, m.h, 3)) return false;
+  for (int y = 0; y < m.h; ++y)
+    for (int x = 0; x < m.w; ++x) {
+      const auto g = static_cast<unsigned char>(std::lround(m.get(x, y) * 255.f));
+      unsigned char* p = bmp.Pixel(x, y);
+      p[0] = p[1] = p[2] = g;
+    }
+  std::vector<unsigned char> png;
+  if (!SaveBitmapEncode(bmp, png)) return false;
+  const std::string path = dir + name;
+  FILE* f = std::fopen(path.c_str(), "wb");
+  if (!f) return false;
+  const bool ok = std::fwrite(png.data(), 1, png.size(), f) == png.size();
+  return std::fclose(f) == 0 && ok;
+}
+
+class Writer {
+ public:
+  explicit Writer(std::string dir) : m_dir(std::move(dir)) {}
+  void operator()(const std::string& name, const Mask& m) {
+    if (Save(m_dir, name, m)) {
+      ++m_count;
+    } else {
+      std::fprintf(stderr, "vorn-maskgen: cannot write %s%s\n", m_dir.c_str(), name.c_str());
+      m_failed = true;
+    }
+  }
+  int Count() const { return m_count; }
+  bool Failed() const { return m_failed; }
+
+ private:
+  std::string m_dir;
+  int m_count = 0;
+  bool m_failed = false;
+};
+
+// The layers of a raised, rounded control face of w x h:
+//   _shape   outline and face together (the picture's alpha)
+//   _border  the one-pixel outline
+//   _body    the face inside the outline
+//   _sheen   a soft light from above over the upper face
+//   _bevel   the lit top edge of the face
+//   _shade   the shadowed bottom edge of the face
+//   _inset   the shadow thrown onto a pressed face by the outline
+void RaisedFace(Writer& out, const std::string& p, int w, int h, float r) {
+  const Mask shape = Fill(w, h, RoundRect(0, 0, w, h, r));
+  const Mask body = Fill(w, h, RoundRect(1, 1, w - 1, h - 1, r - 1));
+  out(p + "_shape.png", shape);
+  out(p + "_border.png", Minus(shape, body));
+  out(p + "_body.png", body);
+  out(p + "_sheen.png", Combine(body, [&](int, int y, float v) {
+        return v * std::max(0.f, 1.f - (y - 1) / (h * 0.6f)) * 0.16f;
+      }));
+  out(p + "_bevel.png",
+      Combine(body, [&](int x, int y, float v) { return (v - body.get(x, y - 1)) * 0.55f; }));
+  out(p + "_shade.png",
+      Combine(body, [&](int x, int y, float v) { return (v - body.get(x, y + 1)) * 0.6f; }));
+  out(p + "_inset.png", Combine(body, [&](int, int y, float v) {
+        return v * std::max(0.f, 1.f - (y - 1) / 3.5f) * 0.5f;
+      }));
+}
+
+// A sunken, rounded well (edit fields): outline, inner well, top shadow and
+// a lit lip under the bottom edge.
+void SunkenWell(Writer& out, const std::string& p, int w, int h, float r) {
+  const Mask shape = Fill(w, h, RoundRect(0, 0, w, h, r));
+  const Mask well = Fill(w, h, RoundRect(1, 1, w - 1, h - 1, r - 1));
+  out(p + "_shape.png", shape);
+  out(p + "_border.png", Minus(shape, well));
+  out(p + "_well.png", well);
+  out(p + "_inset.png", Combine(well, [&](int, int y, float v) {
+        return v * std::max(0.f, 1.f - (y - 1) / 4.f) * 0.55f;
+      }));
+  out(p + "_lip.png",
+      Combine(shape, [&](int x, int y, float v) { return (v - shape.get(x, y + 1)) * 0.35f; }));
+}
+
+// An isoceles arrow head pointing up (dir -1) or down (dir 1), centred at
+// (cx, cy), drawn as two strokes so that it stays crisp at small sizes.
+Field Chevron(float cx, float cy, float halfWidth, float height, int dir, float hw) {
+  const float tipY = cy + dir * height / 2, baseY = cy - dir * height / 2;
+  return Union(Segment(cx - halfWidth, baseY, cx, tipY, hw),
+               Segment(cx, tipY, cx + halfWidth, baseY, hw));
+}
+
+// A solid triangle pointing up or down.
+Field Triangle(float cx, float cy, float halfWidth, float height, int dir) {
+  return [=](float px, float py) {
+    // Distance to the three edges of a convex triangle, negative inside.
+    const float tipY = cy + dir * height / 2, baseY = cy - dir * height / 2;
+    const float ax = cx - halfWidth, bx = cx + halfWidth;
+    auto edge = [&](float x0, float y0, float x1, float y1) {
+      const float ex = x1 - x0, ey = y1 - y0, len = std::hypot(ex, ey);
+      return ((px - x0) * ey - (py - y0) * ex) / len;
+    };
+    const float s = dir > 0 ? 1.f : -1.f;
+    return std::max({s * edge(ax, baseY, bx, baseY), s * edge(bx, baseY, cx, tipY),
+                     s * edge(cx, tipY, ax, baseY)});
+  };
+}
+
+void Generate(Writer& out) {
+  // Push button: a 32 x 32 tool face with a plus glyph.
+  RaisedFace(out, "push", 32, 32, 6);
+  const Field plus =
+      Union(Segment(10.5f, 16, 21.5f, 16, 1.1f), Segment(16, 10.5f, 16, 21.5f, 1.1f));
+  out("push_glyph.png", Fill(32, 32, plus));
+  out("push_glyph_down.png", Fill(32, 32, [&](float x, float y) { return plus(x, y - 1); }));
+
+  // Toggle switch: a 40 x 20 pill track with a round knob at either end.
+  {
+    const int w = 40, h = 20;
+    const Mask shape = Fill(w, h, RoundRect(0, 0, w, h, 10));
+    const Mask track = Fill(w, h, RoundRect(1, 1, w - 1, h - 1, 9));
+    out("toggle_shape.png", shape);
+    out("toggle_border.png", Minus(shape, track));
+    out("toggle_track.png", track);
+    out("toggle_inset.png", Combine(track, [&](int, int y, float v) {
+          return v * std::max(0.f, 1.f - (y - 1) / 4.f) * 0.45f;
+        }));
+    struct Knob {
+      const char* name;
+      float x0, x1;  // centres of the knob's two ends (equal for a round knob)
+    };
+    const Knob knobs[] = {
+        {"off", 10, 10}, {"on", 30, 30}, {"off_down", 10, 14}, {"on_down", 26, 30}};
+    for (const Knob& k : knobs) {
+      const Field knob = Segment(k.x0, 10, k.x1, 10, 7);
+      const Field rim = Segment(k.x0, 10, k.x1, 10, 8);
+      const Mask disc = Fill(w, h, knob);
+      out(std::string("toggle_knob_") + k.name + ".png", disc);
+      out(std::string("toggle_rim_") + k.name + ".png", Minus(Fill(w, h, rim), disc));
+      out(std::string("toggle_knobshade_") + k.name + ".png",
+          Combine(disc, [&](int, int y, float v) { return v * Clamp01((y - 8) / 8.f) * 0.35f; }));
+    }
+  }
+
+  // Radio button: an 18 x 18 round well with a centre dot.
+  {
+    const int s = 18;
+    const Mask shape = Fill(s, s, Circle(9, 9, 9));
+    const Mask well = Fill(s, s, Circle(9, 9, 8));
+    out("radio_shape.png", shape);
+    out("radio_ring.png", Minus(shape, well));
+    out("radio_well.png", well);
+    out("radio_inset.png", Combine(well, [&](int, int y, float v) {
+          return v * std::max(0.f, 1.f - (y - 1) / 5.f) * 0.5f;
+        }));
+    out("radio_dot.png", Fill(s, s, Circle(9, 9, 4.2f)));
+    out("radio_dot_down.png", Fill(s, s, Circle(9, 9, 3.2f)));
+  }
+
+  // Momentary buttons: 20 x 20 faces with an up or a down arrow head.
+  RaisedFace(out, "moment", 20, 20, 4);
+  out("moment_arrow_up.png", Fill(20, 20, Triangle(10, 9.5f, 4.5f, 4.5f, -1)));
+  out("moment_arrow_up_down.png", Fill(20, 20, Triangle(10, 10.5f, 4.5f, 4.5f, -1)));
+  out("moment_arrow_down.png", Fill(20, 20, Triangle(10, 10.5f, 4.5f, 4.5f, 1)));
+  out("moment_arrow_down_down.png", Fill(20, 20, Triangle(10, 11.5f, 4.5f, 4.5f, 1)));
+
+  // Moon button: a 22 x 22 round puck carrying a crescent.
+  {
+    const int s = 22;
+    const Mask shape = Fill(s, s, Circle(11, 11, 11));
+    const Mask body = Fill(s, s, Circle(11, 11, 10));
+    out("moon_shape.png", shape);
+    out("moon_border.png", Minus(shape, body));
+    out("moon_body.png", body);
+    out("moon_sheen.png", Combine(body, [&](int, int y, float v) {
+          return v * std::max(0.f, 1.f - (y - 1) / 12.f) * 0.16f;
+        }));
+    out("moon_inset.png", Combine(body, [&](int, int y, float v) {
+          return v * std::max(0.f, 1.f - (y - 1) / 4.f) * 0.5f;
+        }));
+    const Field crescent = Subtract(Circle(11, 11, 6), Circle(13.6f, 8.8f, 5));
+    out("moon_crescent.png", Fill(s, s, crescent));
+    out("moon_crescent_down.png", Fill(s, s, [&](float x, float y) { return crescent(x, y - 1); }));
+  }
+
+  // Text button: a 96 x 24 face; the label is drawn by the control. An
+  // accent bar under the label marks the on states.
+  RaisedFace(out, "text", 96, 24, 5);
+  out("text_indicator.png", Fill(96, 24, RoundRect(30, 19, 66, 21, 1)));
+
+  // List-box scroll bar end pieces: an 11 x 11 cap with or without arrow.
+  {
+    const int s = 11;
+    const Mask shape = Fill(s, s, RoundRect(0, 0, s, s, 3));
+    const Mask body = Fill(s, s, RoundRect(1, 1, s - 1, s - 1, 2));
+    out("scroll_border.png", Minus(shape, body));
+    out("scroll_body.png", body);
+    out("scroll_arrow_up.png", Fill(s, s, Chevron(5.5f, 5.5f, 2.6f, 2.6f, -1, 0.75f)));
+    out("scroll_arrow_down.png", Fill(s, s, Chevron(5.5f, 5.5f, 2.6f, 2.6f, 1, 0.75f)));
+    out("scroll_grip.png", Fill(s, s, Segment(3.5f, 5.5f, 7.5f, 5.5f, 0.6f)));
+  }
+
+  // Edit field: a 160 x 22 sunken well.
+  SunkenWell(out, "edit", 160, 22, 3);
+
+  // List box: a 140 x 22 raised face with a divider and a chevron.
+  RaisedFace(out, "listbox", 140, 22, 4);
+  out("listbox_divider.png", Fill(140, 22, RoundRect(117, 5, 118, 17, 0)));
+  out("listbox_chevron.png", Fill(140, 22, Chevron(128.5f, 11, 3.5f, 3.5f, 1, 0.9f)));
+  out("listbox_chevron_down.png", Fill(140, 22, Chevron(128.5f, 12, 3.5f, 3.5f, 1, 0.9f)));
+  out("listbox_seldot.png", Fill(8, 8, Circle(4, 4, 3)));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 2) {
+    std::fprintf(stderr,
+                 "usage: vorn-maskgen OUTDIR/\n"
+                 "Writes the mask pictures of the default skin into OUTDIR (a directory\n"
+                 "that exists; the name is used as a prefix and should end with '/').\n");
+    return 2;
+  }
+  std::string dir = argv[1];
+  if (!dir.empty() && dir.back() != '/') dir += '/';
+  Writer out(dir);
+  Generate(out);
+  if (out.Failed()) return 1;
+  std::printf("vorn-maskgen: wrote %d masks to %s\n", out.Count(), dir.c_str());
+  return 0;
+}
