@@ -2,8 +2,11 @@
 // Everything a host needs: the toolkit and the host layer it builds on.
 #include "vornhost/VornHost.h"
 
+#include "vorn/ArchiveAsset.h"
+#include "vorn/ArchiveWriter.h"
 #include "vorn/Asset.h"
 #include "vorn/AssetManager.h"
+#include "vorn/FileAsset.h"
 #include "vorn/GraphicsFunctions.h"
 #include "vorn/ImageScriptParser.h"
 #include "vorn/UIFilters.h"

@@ -1,0 +1,284 @@
+// AssetManager: loaders, the asset index and the best-variant choice, texts,
+// menu texts and messages, and the clearing of everything the manager owns.
+#include "vorn/AssetManager.h"
+
+#include <sstream>
+
+#include "vorn/ArchiveAsset.h"
+#include "vorn/FileAsset.h"
+#include "vornhost/Debug.h"
+#include "vornhost/Utility.h"
+
+namespace {
+const char kLoaderWarningTitle[] = "AssetManager Load Error";
+
+const char* Str(const char* s) {
+  return s ? s : "";
+}
+
+// Who a loader is, for messages.
+std::string DescribeLoader(const AssetLoader& loader, std::size_t index) {
+  if (const auto* archive = dynamic_cast<const ArchiveAssetLoader*>(&loader))
+    return "archive [" + archive->GetPath() + "]";
+  if (const auto* files = dynamic_cast<const FileAssetLoader*>(&loader))
+    return "directory [" + files->GetRoot() + "]";
+  return "asset loader " + std::to_string(index + 1);
+}
+
+std::string OpenFailureReason(const AssetLoader& loader) {
+  if (const auto* archive = dynamic_cast<const ArchiveAssetLoader*>(&loader))
+    if (!archive->GetLastError().empty()) return ": " + archive->GetLastError();
+  return std::string();
+}
+
+// The seven identities tried in order, most specific first. The stored fields
+// are lower-case, so the lower-cased arguments are compared exactly.
+struct Identities {
+  std::string name, platform, language, subLanguage;
+  static const std::string& Generic() {
+    static const std::string generic = "generic";
+    return generic;
+  }
+  Identities(const char* n, const char* p, const char* l, const char* s)
+      : name(ToLower(Str(n))),
+        platform(ToLower(Str(p))),
+        language(ToLower(Str(l))),
+        subLanguage(ToLower(Str(s))) {}
+  static bool Is(const Asset& a, const std::string& p, const std::string& l, const std::string& s) {
+    return a.platform == p && a.language == l && a.subLanguage == s;
+  }
+  bool Try(int index, const Asset& a) const {
+    static const std::string none;
+    switch (index) {
+      case 0:
+        return Is(a, platform, language, subLanguage);
+      case 1:
+        return Is(a, Generic(), language, subLanguage);
+      case 2:
+        return Is(a, platform, language, none);
+      case 3:
+        return Is(a, Generic(), language, none);
+      case 4:
+        return Is(a, platform, none, none);
+      case 5:
+        return Is(a, Generic(), none, none);
+      default:
+        return Is(a, none, none, none);
+    }
+  }
+  static constexpr int kTries = 7;
+};
+
+// Bytes of an asset text as a wxString: UTF-8, or Latin-1 when the bytes are
+// not valid UTF-8, so no text is lost to a failed conversion.
+wxString ToWxString(const std::string& text) {
+  wxString s = wxString::FromUTF8(text.data(), text.size());
+  if (s.empty() && !text.empty()) s = wxString(text.data(), wxConvISO8859_1, text.size());
+  return s;
+}
+}  // namespace
+
+AssetManager::AssetManager() = default;
+
+AssetManager::~AssetManager() {
+  Clear();
+}
+
+// ---- Loaders and the asset index ------------------------------------------------
+
+bool AssetManager::SetAssetLoader(AssetLoader* loader) {
+  VORN_ASSERT(loader != nullptr);
+  if (!loader) return false;
+  m_loaders.emplace_back(loader);
+  return true;
+}
+
+void AssetManager::SetPlatform(const char* platform) {
+  m_platform = Str(platform);
+}
+
+void AssetManager::GetPlatform(std::string& out) const {
+  out = m_platform;
+}
+
+void AssetManager::SetLanguage(const char* language, const char* subLanguage) {
+  m_language = ToLower(Str(language));
+  m_subLanguage = ToLower(Str(subLanguage));
+}
+
+void AssetManager::GetLanguage(std::string& language, std::string& subLanguage) const {
+  language = m_language;
+  subLanguage = m_subLanguage;
+}
+
+bool AssetManager::LoadAssets() {
+  VORN_ASSERT(!m_loaders.empty());
+  if (m_loaders.empty()) return false;
+  bool ok = true;
+  for (std::size_t i = 0; i < m_loaders.size(); ++i) {
+    AssetLoader& loader = *m_loaders[i];
+    if (!loader.Open()) {
+      WarningMessage(kLoaderWarningTitle,
+                     "Cannot open " + DescribeLoader(loader, i) + OpenFailureReason(loader));
+      ok = false;
+      continue;
+    }
+    if (!loader.LoadResources(*this)) {
+      WarningMessage(kLoaderWarningTitle, "Cannot load the assets of " + DescribeLoader(loader, i));
+      ok = false;
+    }
+  }
+  return ok;
+}
+
+bool AssetManager::SetAsset(Asset* asset) {
+  VORN_ASSERT(asset != nullptr);
+  if (!asset) return false;
+  std::unique_ptr<Asset> owned(asset);
+  auto range = m_assets.equal_range(asset->name);
+  for (auto it = range.first; it != range.second; ++it) {
+    if (it->second->IsEqual(asset->name.c_str(), asset->platform.c_str(), asset->language.c_str(),
+                            asset->subLanguage.c_str())) {
+      m_assets.erase(it);
+      break;
+    }
+  }
+  // Placed after every variant already under the name.
+  m_assets.emplace_hint(range.second, asset->name, std::move(owned));
+  return true;
+}
+
+bool AssetManager::GetAsset(const char* name, Asset*& out) const {
+  const std::string lowerName = ToLower(Str(name));
+  return GetBestAsset(out, lowerName.c_str(), m_platform.c_str(), m_language.c_str(),
+                      m_subLanguage.c_str());
+}
+
+bool AssetManager::GetBestAsset(Asset*& out, const char* name, const char* platform,
+                                const char* language, const char* subLanguage) const {
+  const Identities want(name, platform, language, subLanguage);
+  const auto range = m_assets.equal_range(want.name);
+  for (int t = 0; t < Identities::kTries; ++t) {
+    for (auto it = range.first; it != range.second; ++it) {
+      if (want.Try(t, *it->second)) {
+        out = it->second.get();
+        return true;
+      }
+    }
+  }
+  return false;
+}
+
+bool AssetManager::GetAllAssets(const char* name, std::vector<Asset*>& out) const {
+  const Identities want(name, m_platform.c_str(), m_language.c_str(), m_subLanguage.c_str());
+  const auto range = m_assets.equal_range(want.name);
+  if (range.first == range.second) return false;
+  for (auto it = range.first; it != range.second; ++it) {
+    for (int t = 0; t < Identities::kTries; ++t) {
+      if (want.Try(t, *it->second)) {
+        out.push_back(it->second.get());
+        break;
+      }
+    }
+  }
+  return true;
+}
+
+bool AssetManager::LoadText(const char* name, std::string& out) {
+  Asset* asset = nullptr;
+  if (!GetAsset(name, asset)) return false;
+  asset->Open();
+  // A file that vanished since the scan serves no text.
+  const char* text = asset->GetTextPtr();
+  if (text) out = text;
+  asset->Close();
+  return text != nullptr;
+}
+
+bool AssetManager::LoadText(const char* name, wxString& out) {
+  std::string text;
+  if (!LoadText(name, text)) return false;
+  out = ToWxString(text);
+  return true;
+}
+
+bool AssetManager::LoadMenuText(const char* name, std::vector<MENUITEM>& out) {
+  std::string text;
+  if (!LoadText(name, text)) return false;
+  std::istringstream in(text);
+  while (in.good()) {
+    int32 id = 0;
+    in >> id;
+    if (!in) break;
+    char label[100];
+    in.get(label, sizeof label, '\n');
+    const std::streamsize got = in.gcount();
+    // The first character read is the separator after the number.
+    if (got > 1 && !in.fail()) {
+      MENUITEM item;
+      item.id = id;
+      item.text = ToWxString(std::string(label + 1, static_cast<std::size_t>(got - 1)));
+      out.push_back(item);
+    }
+  }
+  return true;
+}
+
+void AssetManager::CloseAll() {
+  for (auto& entry : m_assets) entry.second->Close();
+  for (auto& loader : m_loaders) loader->Close();
+}
+
+void AssetManager::ClearAssets() {
+  // Assets first: archive assets point into their loader's buffer.
+  m_assets.clear();
+  m_loaders.clear();
+}
+
+void AssetManager::ClearCaches() {
+  for (auto& entry : m_listBoxInfos) {
+    if (entry.second.ownsBitmaps) delete entry.second.bitmaps;
+    entry.second.bitmaps = nullptr;
+  }
+  m_listBoxInfos.clear();
+  m_editWidgets.clear();
+  m_bitmapACaches.clear();
+  m_bitmapCaches.clear();
+  m_wxBitmapCaches.clear();
+  m_wxImageCaches.clear();
+  m_bitmapAs.clear();
+  m_bitmaps.clear();
+  m_wxBitmaps.clear();
+  m_wxImages.clear();
+  // Last: the sheet-backed caches above refer to the sheets.
+  m_wallpaper.ClearAll();
+}
+
+void AssetManager::Clear() {
+  ClearAssets();
+  ClearCaches();
+  CloseAll();
+  ClearFontDatabase();
+  ClearColourDatabase();
+}
+
+// ---- Messages -------------------------------------------------------------------
+
+std::string AssetManager::GetMessage(const std::string& key) const {
+  const auto it = m_messages.find(key);
+  if (it != m_messages.end()) return it->second;
+  dprintf("WARNING : Message *%s* not translated\n", key.c_str());
+  return key;
+}
+
+std::string AssetManager::GetMessage(const char* key) const {
+  return GetMessage(std::string(Str(key)));
+}
+
+bool AssetManager::SetMessage(const std::string& key, const std::string& text) {
+  return m_messages.emplace(key, text).second;
+}
+
+void AssetManager::ClearMessageDatabase() {
+  m_messages.clear();
+}

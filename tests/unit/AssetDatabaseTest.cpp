@@ -1,0 +1,222 @@
+// The message, colour and font file grammars with their messages. Fonts are
+// only parsed here up to the point where a wxFont would be created; creating
+// them needs a display (tests/gui/AssetFontTest.cpp).
+#include <wx/colour.h>
+
+#include "AssetTestUtil.h"
+#include "TestSupport.h"
+
+namespace {
+
+class DatabaseTest : public testing::Test {
+ protected:
+  // Indexes one file called name holding text.
+  void Load(const std::string& name, const std::string& text) {
+    m_dir.Write(name, text);
+    ASSERT_TRUE(LoadTree(m_manager, m_dir.Path()));
+  }
+  TempDir m_dir;
+  AssetManager m_manager;
+};
+
+using MessageDatabaseTest = DatabaseTest;
+
+TEST_F(MessageDatabaseTest, PairsEndAtFinishAndEachLineLosesItsLastCharacter) {
+  Load("msg.txt", "Hello \r\nBonjour \nGood bye!\nAu revoir!\nFINISH \nAfter \nNever \n");
+  ASSERT_TRUE(m_manager.LoadMessages("msg.txt"));
+  EXPECT_EQ(m_manager.GetMessage("Hello"), "Bonjour");
+  EXPECT_EQ(m_manager.GetMessage("Good bye"), "Au revoir");
+  CaptureDprintf debug;
+  EXPECT_EQ(m_manager.GetMessage("After"), "After");
+  EXPECT_TRUE(debug.Contains("WARNING : Message *After* not translated"));
+}
+
+TEST_F(MessageDatabaseTest, NoFinishReadsToTheEndAndDuplicatesKeepTheFirst) {
+  Load("msg.txt", "A.\n1.\nB.\n2.\nA.\n3.\nC.");
+  CaptureDprintf debug;
+  ASSERT_TRUE(m_manager.LoadMessages("msg.txt"));
+  EXPECT_EQ(m_manager.GetMessage("A"), "1");
+  EXPECT_EQ(m_manager.GetMessage("B"), "2");
+  EXPECT_TRUE(debug.Contains("*A*")) << debug.All();
+  EXPECT_TRUE(debug.Contains("line 5")) << debug.All();
+  debug.ClearLines();
+  EXPECT_EQ(m_manager.GetMessage("C"), "C");  // a key without translation line
+  EXPECT_EQ(debug.Lines().size(), 1u);
+}
+
+TEST_F(MessageDatabaseTest, FinishMustBeExact) {
+  Load("msg.txt", "FINISH\nx \nfinish \nfini \n FINISH \nlater \nFINISH \n");
+  ASSERT_TRUE(m_manager.LoadMessages("msg.txt"));
+  EXPECT_EQ(m_manager.GetMessage("FINIS"), "x");  // "FINISH" without the extra char
+  EXPECT_EQ(m_manager.GetMessage("finish"), "fini");
+  EXPECT_EQ(m_manager.GetMessage(" FINISH"), "later");
+}
+
+TEST_F(MessageDatabaseTest, MissingAssetWarnsAndFails) {
+  Load("other.txt", "");
+  CaptureWarnings warnings;
+  EXPECT_FALSE(m_manager.LoadMessages("msg.txt"));
+  EXPECT_TRUE(warnings.Contains("MessageDatabase Script Error", "msg.txt"));
+}
+
+using ColourDatabaseTest = DatabaseTest;
+
+TEST_F(ColourDatabaseTest, DefinitionsAliasesAndComments) {
+  Load("colours.txt",
+       "Background 200 200 210\n"
+       "\n"
+       "Highlight 255 255 255 128\n"
+       "# a comment 1 2 3\n"
+       "ButtonFace Background\n"
+       "HalfAlias Highlight\n"
+       "#red 1 2 3\n"
+       "Bright 510 -255 0\n"
+       "Bad 1\n"
+       "Background 1 2 3\n"
+       "Ghost Nowhere\n"
+       "   \n"
+       "Lonely\n"
+       "ButtonFace Highlight\n"
+       "Tail 10 20 30 40 junk\n"
+       "Huge 16325 0 0\n"
+       "HugeAlias Huge");
+  CaptureWarnings warnings;
+  EXPECT_FALSE(m_manager.LoadColourData("colours.txt"));
+
+  const std::vector<std::string> expectedWarnings = {
+      "Got red but Cannot get green and blue data's on line 9",
+      "We've already got colour [Background] on line 10",
+      "Colour [Nowhere] does not exist, on line 11",
+      "Cannot get 1st arg (colourname) on line 12",
+      "Cannot get 2nd arg (predef_colorname or rednum) on line 13",
+  };
+  ASSERT_EQ(warnings.Warnings().size(), expectedWarnings.size());
+  for (std::size_t i = 0; i < expectedWarnings.size(); ++i) {
+    EXPECT_EQ(warnings.Warnings()[i].title, "ColorDatabase Script Error");
+    EXPECT_EQ(warnings.Warnings()[i].text, expectedWarnings[i]);
+  }
+
+  ColorA c;
+  const struct {
+    const char* name;
+    ColorA value;
+  } stored[] = {
+      {"Background", ColorA(200 / 255.0, 200 / 255.0, 210 / 255.0, 1.0)},
+      {"Highlight", ColorA(1.0, 1.0, 1.0, 128 / 255.0)},
+      {"ButtonFace", ColorA(200 / 255.0, 200 / 255.0, 210 / 255.0, 1.0)},  // first one stays
+      {"HalfAlias", ColorA(1.0, 1.0, 1.0, 128 / 255.0)},
+      {"#red", ColorA(1 / 255.0, 2 / 255.0, 3 / 255.0, 1.0)},
+      {"Bright", ColorA(2.0, -1.0, 0.0, 1.0)},  // not clamped
+      {"Tail", ColorA(10 / 255.0, 20 / 255.0, 30 / 255.0, 40 / 255.0)},
+      // 16325/255*255 is a hair below 16325 in doubles: the alias truncates.
+      {"HugeAlias", ColorA(16324 / 255.0, 0.0, 0.0, 1.0)},
+  };
+  for (const auto& s : stored) {
+    ASSERT_TRUE(m_manager.GetColour(s.name, c)) << s.name;
+    EXPECT_EQ(c, s.value) << s.name;
+  }
+  std::vector<std::string> names = {"stale"};
+  m_manager.GetColourNameList(names);
+  EXPECT_EQ(names,
+            (std::vector<std::string>{"#red", "Background", "Bright", "ButtonFace", "HalfAlias",
+                                      "Highlight", "Huge", "HugeAlias", "Tail"}));
+}
+
+TEST_F(ColourDatabaseTest, CorrectFileLoadsTrueAndLaterFilesShareTheNames) {
+  Load("a.txt", "One 1 2 3\r\n");
+  m_dir.Write("b.txt", "Two One\nOne 9 9 9\n");
+  ASSERT_TRUE(m_manager.LoadColourData("a.txt"));
+  AssetManager& m = m_manager;
+  m.ClearAssets();
+  ASSERT_TRUE(LoadTree(m, m_dir.Path()));
+  CaptureWarnings warnings;
+  EXPECT_FALSE(m.LoadColourData("b.txt"));
+  EXPECT_TRUE(
+      warnings.Contains("ColorDatabase Script Error", "We've already got colour [One] on line 2"));
+  Color c;
+  ASSERT_TRUE(m.GetColour("Two", c));
+  EXPECT_EQ(c, Color(1 / 255.0, 2 / 255.0, 3 / 255.0));
+  EXPECT_FALSE(m.LoadColourData("missing.txt"));
+  EXPECT_TRUE(warnings.Contains("ColorDatabase Script Error", "missing.txt"));
+}
+
+TEST(ColourLookup, UnknownNamesGiveFunnyRedWithTwoDebugLines) {
+  AssetManager m;
+  CaptureDprintf debug;
+  Color c;
+  EXPECT_FALSE(m.GetColour("Nope", c));
+  EXPECT_EQ(c, Color(1.0, 100 / 255.0, 100 / 255.0));
+  EXPECT_DOUBLE_EQ(c.g, 0.39215686274509803);
+  ColorA ca;
+  EXPECT_FALSE(m.GetColour("Nope", ca));
+  EXPECT_EQ(ca, ColorA(1.0, 100 / 255.0, 100 / 255.0, 1.0));
+  wxColour wx;
+  EXPECT_FALSE(m.GetColour("Nope", wx));
+  EXPECT_EQ(wx, wxColour(255, 100, 100));
+  EXPECT_EQ(debug.Lines(), (std::vector<std::string>{
+                               "NONFATAL ERROR: Failed to find Colour called 'Nope'\n",
+                               "Setting 'Nope' to default funny red\n",
+                               "NONFATAL ERROR: Failed to find ColourA called 'Nope'\n",
+                               "Setting 'Nope' to default funny red\n",
+                               "NONFATAL ERROR: Failed to find wxColour called 'Nope'\n",
+                               "Setting 'Nope' to default funny red\n",
+                           }));
+}
+
+TEST(ColourLookup, WxColourTruncatesAndClampsChannels) {
+  AssetManager m;
+  EXPECT_TRUE(m.SetColour("c", 128, 254, 1, 0));
+  EXPECT_FALSE(m.SetColour("c", 0, 0, 0, 0));
+  m.SetColour("out", 300, -5, 255, 255);
+  wxColour wx;
+  ASSERT_TRUE(m.GetColour("c", wx));
+  EXPECT_EQ(wx, wxColour(128, 254, 1));
+  ASSERT_TRUE(m.GetColour("out", wx));
+  EXPECT_EQ(wx, wxColour(255, 0, 255));
+  ColorA ca;
+  m.GetColour("c", ca);
+  EXPECT_EQ(ca.a, 0.0);
+}
+
+using FontDatabaseTest = DatabaseTest;
+
+TEST_F(FontDatabaseTest, FaultyLinesAreReportedWithTheirLineNumbers) {
+  // Only faulty and blank lines: no font gets created.
+  Load("fonts.txt",
+       "Big 20 swiss bold\n"
+       "\n"
+       "Odd 12 fancy\n"
+       "Thin 12 roman italic heavy\n"
+       "Caps 12 Swiss\n"
+       "   \n"
+       "NoSize swiss\n"
+       "Zero 0 swiss\n"
+       "Slanted 10 script slant wide\n");
+  CaptureWarnings warnings;
+  CaptureDprintf debug;
+  EXPECT_FALSE(m_manager.LoadFontData("fonts.txt"));
+  ASSERT_FALSE(debug.Lines().empty());
+  EXPECT_EQ(debug.Lines()[0], "fonts.txt\n");
+  const std::vector<std::string> expected = {
+      "Unknown Style Arg [bold] on line 1",   "Unknown Family Arg [fancy] on line 3",
+      "Unknown Weight Arg [heavy] on line 4", "Unknown Family Arg [Swiss] on line 5",
+      "Bad Point Size Arg [0] on line 8",     "Unknown Weight Arg [wide] on line 9",
+  };
+  ASSERT_EQ(warnings.Warnings().size(), expected.size());
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    EXPECT_EQ(warnings.Warnings()[i].title, "FontDatabase Script Error");
+    EXPECT_EQ(warnings.Warnings()[i].text, expected[i]);
+  }
+  std::vector<std::string> names = {"stale"};
+  m_manager.GetFontNameList(names);
+  EXPECT_TRUE(names.empty());
+}
+
+TEST_F(FontDatabaseTest, MissingAssetWarnsAndFails) {
+  Load("other.txt", "");
+  CaptureWarnings warnings;
+  EXPECT_FALSE(m_manager.LoadFontData("fonts.txt"));
+  EXPECT_TRUE(warnings.Contains("FontDatabase Script Error", "fonts.txt"));
+}
+
+}  // namespace
