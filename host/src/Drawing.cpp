@@ -38,22 +38,14 @@ class Painter {
   bool m_aa;
 };
 
-// Up to four pixels along one row or column, merged so that no pixel is
-// blended twice where the two halves of a curve meet.
+// The pixels, along one row or column, that stand for points of a curve.
+// The passes below never produce the same pixel twice for one run.
 class PixelRun {
  public:
   void Add(i64 offset, double intensity) {
-    if (intensity <= kEps) return;
-    for (int i = 0; i < m_n; ++i) {
-      if (m_offset[i] == offset) {
-        m_value[i] = std::min(1.0, m_value[i] + intensity);
-        return;
-      }
-    }
-    if (m_n < kMax) {
-      m_offset[m_n] = offset;
-      m_value[m_n++] = intensity;
-    }
+    if (intensity <= kEps || m_n == kMax) return;
+    m_offset[m_n] = offset;
+    m_value[m_n++] = intensity;
   }
   // Adds the pixels that represent the exact position v (relative offset,
   // along the run, from the curve's centre) in direction sign.
@@ -77,7 +69,7 @@ class PixelRun {
   }
 
  private:
-  static constexpr int kMax = 8;
+  static constexpr int kMax = 4;
   i64 m_offset[kMax] = {};
   double m_value[kMax] = {};
   int m_n = 0;

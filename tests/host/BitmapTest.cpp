@@ -1,0 +1,249 @@
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <vector>
+
+#include "vornhost/Bitmap.h"
+
+namespace {
+
+std::vector<unsigned char> Bytes(const Bitmap& b, int x, int y) {
+  return std::vector<unsigned char>(b.Pixel(x, y), b.Pixel(x, y) + b.BytesPerPixel());
+}
+std::vector<unsigned char> Bytes(const BitmapA& b, int x, int y) {
+  return std::vector<unsigned char>(b.Pixel(x, y), b.Pixel(x, y) + b.BytesPerPixel());
+}
+typedef std::vector<unsigned char> Px;
+
+// A bitmap whose every pixel encodes its own position: R = x, G = y.
+Bitmap Numbered(int w, int h) {
+  Bitmap b;
+  Create(b, w, h, 3);
+  for (int y = 0; y < h; ++y)
+    for (int x = 0; x < w; ++x) {
+      b.Pixel(x, y)[0] = static_cast<unsigned char>(x);
+      b.Pixel(x, y)[1] = static_cast<unsigned char>(y);
+      b.Pixel(x, y)[2] = 7;
+    }
+  return b;
+}
+
+}  // namespace
+
+TEST(HostBitmap, CreateRefusesBadSizesAndFormats) {
+  struct Case {
+    int w, h, format;
+    bool ok;
+  } cases[] = {{1, 1, 3, true},       {5, 2, 1, true},  {0, 4, 3, false},
+               {4, -1, 3, false},     {4, 4, 2, false}, {kMaxBitmapSide + 1, 1, 3, false},
+               {1, INT_MAX, 1, false}};
+  for (const Case& c : cases) {
+    BitmapA b;
+    Create(b, 3, 3, 1);  // must be emptied on failure
+    EXPECT_EQ(Create(b, c.w, c.h, c.format), c.ok) << c.w << "x" << c.h << " f" << c.format;
+    if (c.ok) {
+      EXPECT_EQ(b.data.size(), static_cast<std::size_t>(c.w) * c.h * (c.format == 1 ? 2 : 4));
+      EXPECT_EQ(b.data, std::vector<unsigned char>(b.data.size(), 0));
+    } else {
+      EXPECT_TRUE(b.IsEmpty());
+      EXPECT_TRUE(b.data.empty());
+      EXPECT_EQ(b.format, 3);
+    }
+  }
+}
+
+TEST(HostBitmap, SetTruncatesAndClampsChannels) {
+  struct Case {
+    double v;
+    unsigned char byte;
+  } cases[] = {{0.0, 0},   {0.2, 51},  {0.5, 127}, {0.7, 178},      {0.999, 254},
+               {1.0, 255}, {1.5, 255}, {-0.3, 0},  {1.0 / 255.0, 1}};
+  for (const Case& c : cases) {
+    BitmapA b;
+    Create(b, 2, 2, 3);
+    ASSERT_TRUE(Set(b, 1, 1, ColorA(c.v, c.v, c.v, c.v)));
+    EXPECT_EQ(Bytes(b, 1, 1), Px(4, c.byte)) << c.v;
+    EXPECT_EQ(Bytes(b, 0, 0), Px(4, 0));
+  }
+  // Grey formats store the mean of the colour channels.
+  Bitmap grey;
+  Create(grey, 2, 1, 1);
+  ASSERT_TRUE(Set(grey, 1, 0, Color(0.2, 0.4, 0.9)));
+  EXPECT_EQ(Bytes(grey, 1, 0), Px{127});
+  BitmapA greyA;
+  Create(greyA, 2, 1, 1);
+  ASSERT_TRUE(Set(greyA, 0, 0, ColorA(0.2, 0.4, 0.9, 0.2)));
+  EXPECT_EQ(Bytes(greyA, 0, 0), (Px{127, 51}));
+  ColorA back;
+  ASSERT_TRUE(Get(greyA, 0, 0, back));
+  EXPECT_EQ(back, ColorA(127 / 255.0, 127 / 255.0, 127 / 255.0, 51 / 255.0));
+  // Every byte value survives Get followed by Set.
+  Bitmap rgb;
+  Create(rgb, 256, 1, 3);
+  for (int i = 0; i < 256; ++i) rgb.Pixel(i, 0)[0] = rgb.Pixel(i, 0)[1] = rgb.Pixel(i, 0)[2] = i;
+  for (int i = 0; i < 256; ++i) {
+    Color c;
+    ASSERT_TRUE(Get(rgb, i, 0, c));
+    ASSERT_TRUE(Set(rgb, i, 0, c));
+    ASSERT_EQ(rgb.Pixel(i, 0)[0], i);
+  }
+}
+
+TEST(HostBitmap, AccessOutsideOrOnInconsistentImagesFails) {
+  Bitmap b;
+  Create(b, 3, 2, 3);
+  Color c;
+  for (auto xy : std::vector<std::pair<int, int>>{{-1, 0}, {3, 0}, {0, 2}, {0, -1}, {INT_MIN, 0}}) {
+    EXPECT_FALSE(Set(b, xy.first, xy.second, Color(1, 1, 1)));
+    EXPECT_FALSE(Get(b, xy.first, xy.second, c));
+  }
+  EXPECT_EQ(b.data, Px(18, 0));
+  // Fields that disagree with the buffer must not lead to reads past it.
+  Bitmap broken = b;
+  broken.height = 50;
+  EXPECT_FALSE(Set(broken, 0, 40, Color(1, 1, 1)));
+  EXPECT_FALSE(ClearBitmap(broken, Color(1, 1, 1)));
+  Bitmap copy;
+  EXPECT_FALSE(Copy(copy, broken));
+  broken.format = 2;
+  broken.height = 2;
+  EXPECT_FALSE(Get(broken, 0, 0, c));
+  BitmapA a;
+  EXPECT_FALSE(ConvertTo(a, broken));
+}
+
+TEST(HostBitmap, ConvertToBothWaysKeepsFormat) {
+  BitmapA rgba;
+  Create(rgba, 2, 1, 3);
+  Set(rgba, 0, 0, ColorA(1, 0.5, 0.2, 0.4));
+  Bitmap rgb;
+  ASSERT_TRUE(ConvertTo(rgb, rgba));
+  EXPECT_EQ(rgb.format, 3);
+  EXPECT_EQ(rgb.width, 2);
+  EXPECT_EQ(Bytes(rgb, 0, 0), (Px{255, 127, 51}));  // alpha dropped
+
+  BitmapA back;
+  ASSERT_TRUE(ConvertTo(back, rgb));
+  EXPECT_EQ(Bytes(back, 0, 0), (Px{255, 127, 51, 255}));
+  EXPECT_EQ(Bytes(back, 1, 0), (Px{0, 0, 0, 255}));
+
+  Bitmap grey;
+  Create(grey, 1, 2, 1);
+  grey.data = {10, 200};
+  BitmapA greyA;
+  ASSERT_TRUE(ConvertTo(greyA, grey));
+  EXPECT_EQ(greyA.format, 1);
+  EXPECT_EQ(greyA.data, (Px{10, 255, 200, 255}));
+  greyA.data[1] = 3;
+  Bitmap greyAgain;
+  ASSERT_TRUE(ConvertTo(greyAgain, greyA));
+  EXPECT_EQ(greyAgain.format, 1);
+  EXPECT_EQ(greyAgain.data, (Px{10, 200}));
+}
+
+TEST(HostBitmap, CropClipsToSource) {
+  const Bitmap src = Numbered(6, 4);
+  struct Case {
+    int x, y, w, h;
+    bool ok;
+    int ox = 0, oy = 0, ow = 0, oh = 0;  // expected origin in src and size
+  } cases[] = {
+      {1, 1, 2, 2, true, 1, 1, 2, 2},
+      {-2, -1, 4, 3, true, 0, 0, 2, 2},
+      {4, 2, 10, 10, true, 4, 2, 2, 2},
+      {-5, -5, 20, 20, true, 0, 0, 6, 4},
+      {6, 0, 2, 2, false},
+      {-3, 0, 3, 4, false},
+      {0, 0, 0, 3, false},
+      {INT_MAX - 1, 0, INT_MAX, 2, false},
+      {INT_MIN, 0, INT_MAX, 4, false},
+  };
+  for (const Case& c : cases) {
+    Bitmap dst = Numbered(1, 1);
+    EXPECT_EQ(Crop(dst, src, c.x, c.y, c.w, c.h), c.ok) << c.x << "," << c.y;
+    if (!c.ok) {
+      EXPECT_EQ(dst.width, 1);  // unchanged
+      continue;
+    }
+    ASSERT_EQ(dst.width, c.ow);
+    ASSERT_EQ(dst.height, c.oh);
+    EXPECT_EQ(Bytes(dst, 0, 0), (Px{(unsigned char)c.ox, (unsigned char)c.oy, 7}));
+    EXPECT_EQ(Bytes(dst, c.ow - 1, c.oh - 1),
+              (Px{(unsigned char)(c.ox + c.ow - 1), (unsigned char)(c.oy + c.oh - 1), 7}));
+  }
+}
+
+TEST(HostBitmap, BlitCopiesTheClippedOverlap) {
+  const Bitmap top = Numbered(3, 3);
+  struct Case {
+    int x, y;
+    int changed;  // pixels of the 5x4 destination that change
+  } cases[] = {{1, 1, 9}, {-1, -2, 2}, {4, 3, 1}, {5, 0, 0}, {-3, 0, 0}, {INT_MIN, INT_MAX, 0}};
+  for (const Case& c : cases) {
+    Bitmap dst;
+    Create(dst, 5, 4, 3);
+    ClearBitmap(dst, Color(1, 1, 1));
+    ASSERT_TRUE(Blit(dst, top, c.x, c.y)) << c.x;
+    int changed = 0;
+    for (int y = 0; y < 4; ++y)
+      for (int x = 0; x < 5; ++x) {
+        if (Bytes(dst, x, y) == Px(3, 255)) continue;
+        ++changed;
+        EXPECT_EQ(Bytes(dst, x, y), (Px{(unsigned char)(x - c.x), (unsigned char)(y - c.y), 7}));
+      }
+    EXPECT_EQ(changed, c.changed) << c.x << "," << c.y;
+  }
+  Bitmap grey;
+  Create(grey, 2, 2, 1);
+  Bitmap dst = Numbered(4, 4);
+  EXPECT_FALSE(Blit(dst, grey, 0, 0));  // formats differ
+}
+
+TEST(HostBitmap, BlitAComposesOver) {
+  BitmapA dst;
+  Create(dst, 3, 1, 3);
+  ClearBitmap(dst, ColorA(0, 0, 1, 1));
+  Set(dst, 2, 0, ColorA(0, 0, 0, 0));  // transparent pixel
+  BitmapA top;
+  Create(top, 3, 1, 3);
+  Set(top, 0, 0, ColorA(1, 0, 0, 0));    // invisible
+  Set(top, 1, 0, ColorA(1, 0, 0, 0.6));  // partly covers blue
+  Set(top, 2, 0, ColorA(1, 0, 0, 0.6));  // over nothing keeps its colour
+  ASSERT_TRUE(Blit(dst, top, 0, 0));
+  EXPECT_EQ(Bytes(dst, 0, 0), (Px{0, 0, 255, 255}));
+  const Px mixed = Bytes(dst, 1, 0);
+  EXPECT_NEAR(mixed[0], 153, 1);
+  EXPECT_NEAR(mixed[2], 102, 1);
+  EXPECT_EQ(mixed[3], 255);
+  const Px alone = Bytes(dst, 2, 0);
+  EXPECT_EQ(alone[0], 255);
+  EXPECT_EQ(alone[2], 0);
+  EXPECT_NEAR(alone[3], 153, 1);
+}
+
+TEST(HostBitmap, FlipAndCopyKeepSize) {
+  Bitmap b = Numbered(3, 5);
+  ASSERT_TRUE(FlipVert(b));
+  EXPECT_EQ(b.width, 3);
+  EXPECT_EQ(b.height, 5);
+  EXPECT_EQ(Bytes(b, 0, 0), (Px{0, 4, 7}));
+  EXPECT_EQ(Bytes(b, 2, 2), (Px{2, 2, 7}));  // middle row stays
+  ASSERT_TRUE(FlipHoz(b));
+  EXPECT_EQ(Bytes(b, 0, 0), (Px{2, 4, 7}));
+  EXPECT_EQ(Bytes(b, 1, 4), (Px{1, 0, 7}));
+
+  BitmapA a;
+  Create(a, 2, 1, 1);
+  a.data = {1, 2, 3, 4};
+  ASSERT_TRUE(FlipHoz(a));
+  EXPECT_EQ(a.data, (Px{3, 4, 1, 2}));
+
+  Bitmap copy = Numbered(1, 1);
+  ASSERT_TRUE(Copy(copy, b));
+  EXPECT_EQ(copy.width, 3);
+  EXPECT_EQ(copy.height, 5);
+  EXPECT_EQ(copy.data, b.data);
+  ASSERT_TRUE(Copy(copy, Bitmap()));  // an empty image copies as empty
+  EXPECT_TRUE(copy.IsEmpty());
+  EXPECT_FALSE(FlipVert(copy));
+}
