@@ -77,10 +77,11 @@ inline int GreyAt(const unsigned char* rgb) {
 enum class AlphaMode { kKeep, kMap, kSet };
 enum class ColourMode { kKeep, kMap, kSet };
 
-// One pass over the mask. The per-grey factors are tabulated with exactly the
-// expressions of the per-pixel formula, so the results are the same.
-bool ApplyGrey(BitmapA& dst, const wxImage& grey, const Color* colour, ColourMode colours,
-               AlphaMode alpha) {
+// One pass over the mask, one loop per mode combination. The per-grey factors
+// are tabulated with exactly the expressions of the per-pixel formula, so the
+// results are the same.
+template <ColourMode colours, AlphaMode alpha>
+bool ApplyGrey(BitmapA& dst, const wxImage& grey, const Color* colour) {
   if (!GreyMaskUsable(dst, grey)) return false;
   const std::size_t count = static_cast<std::size_t>(dst.width) * dst.height;
   if (count == 0) return true;
@@ -89,7 +90,7 @@ bool ApplyGrey(BitmapA& dst, const wxImage& grey, const Color* colour, ColourMod
   std::array<std::array<unsigned char, 256>, 3> byGrey{};  // map: trunc(c*t*255) mod 256;
                                                            // set: trunc(c*grey)
   std::array<double, 256> keep{};                          // map: 1 - t
-  if (colours != ColourMode::kKeep) {
+  if constexpr (colours != ColourMode::kKeep) {
     for (int g = 0; g < 256; ++g) {
       const double t = g / 255.0;
       keep[g] = 1 - t;
@@ -101,14 +102,16 @@ bool ApplyGrey(BitmapA& dst, const wxImage& grey, const Color* colour, ColourMod
   unsigned char* px = dst.data.data();
   for (std::size_t i = 0; i < count; ++i, mask += 3, px += 4) {
     const int g = GreyAt(mask);
-    if (colours == ColourMode::kMap) {
-      for (int ch = 0; ch < 3; ++ch) px[ch] = LowByte(byGrey[ch][g] + px[ch] * keep[g]);
-    } else if (colours == ColourMode::kSet) {
+    if constexpr (colours == ColourMode::kMap) {
+      // Both terms lie in 0..255, so the sum converts to int safely.
+      for (int ch = 0; ch < 3; ++ch)
+        px[ch] = static_cast<unsigned char>(static_cast<int>(byGrey[ch][g] + px[ch] * keep[g]));
+    } else if constexpr (colours == ColourMode::kSet) {
       for (int ch = 0; ch < 3; ++ch) px[ch] = byGrey[ch][g];
     }
-    if (alpha == AlphaMode::kMap)
+    if constexpr (alpha == AlphaMode::kMap)
       px[3] = g == 0 ? 0 : 255;
-    else if (alpha == AlphaMode::kSet)
+    else if constexpr (alpha == AlphaMode::kSet)
       px[3] = static_cast<unsigned char>(g);
   }
   return true;
@@ -208,25 +211,25 @@ bool ClearwxImage(wxImage& image, const Color& c) {
 }
 
 bool MapAlphaFromGrey(BitmapA& dst, const wxImage& grey) {
-  return ApplyGrey(dst, grey, nullptr, ColourMode::kKeep, AlphaMode::kMap);
+  return ApplyGrey<ColourMode::kKeep, AlphaMode::kMap>(dst, grey, nullptr);
 }
 
 bool MapColoursFromGrey(BitmapA& dst, const wxImage& grey, const Color& c) {
-  return ApplyGrey(dst, grey, &c, ColourMode::kMap, AlphaMode::kKeep);
+  return ApplyGrey<ColourMode::kMap, AlphaMode::kKeep>(dst, grey, &c);
 }
 
 bool MapAllFromGrey(BitmapA& dst, const wxImage& grey, const Color& c) {
-  return ApplyGrey(dst, grey, &c, ColourMode::kMap, AlphaMode::kMap);
+  return ApplyGrey<ColourMode::kMap, AlphaMode::kMap>(dst, grey, &c);
 }
 
 bool SetAlphaFromGrey(BitmapA& dst, const wxImage& grey) {
-  return ApplyGrey(dst, grey, nullptr, ColourMode::kKeep, AlphaMode::kSet);
+  return ApplyGrey<ColourMode::kKeep, AlphaMode::kSet>(dst, grey, nullptr);
 }
 
 bool SetColoursFromGrey(BitmapA& dst, const wxImage& grey, const Color& c) {
-  return ApplyGrey(dst, grey, &c, ColourMode::kSet, AlphaMode::kKeep);
+  return ApplyGrey<ColourMode::kSet, AlphaMode::kKeep>(dst, grey, &c);
 }
 
 bool SetAllFromGrey(BitmapA& dst, const wxImage& grey, const Color& c) {
-  return ApplyGrey(dst, grey, &c, ColourMode::kSet, AlphaMode::kSet);
+  return ApplyGrey<ColourMode::kSet, AlphaMode::kSet>(dst, grey, &c);
 }

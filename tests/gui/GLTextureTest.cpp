@@ -1,0 +1,179 @@
+// Texture upload inside a real OpenGL context (Mesa under Xvfb).
+#include <GL/gl.h>
+#include <gtest/gtest.h>
+#include <wx/glcanvas.h>
+#include <wx/wx.h>
+
+#include <memory>
+#include <vector>
+
+#include "GuiTestSupport.h"
+#include "TestSupport.h"
+#include "vorn/VornGLTextureCache.h"
+
+namespace {
+class GLTexture : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    m_frame = std::make_unique<TestFrame>(wxSize(120, 120));
+    wxGLAttributes attrs;
+    attrs.PlatformDefaults().RGBA().DoubleBuffer().EndList();
+    if (!wxGLCanvas::IsDisplaySupported(attrs))
+      GTEST_SKIP() << "no OpenGL visual on this display; texture upload not tested";
+    m_canvas = new wxGLCanvas(m_frame->Get(), attrs, wxID_ANY, wxDefaultPosition, wxSize(64, 64));
+    m_frame->Get()->Layout();
+    PumpEvents();
+    m_context = std::make_unique<wxGLContext>(m_canvas);
+    if (!m_context->IsOK()) GTEST_SKIP() << "cannot create an OpenGL context; upload not tested";
+    if (!m_canvas->SetCurrent(*m_context))
+      GTEST_SKIP() << "cannot make the OpenGL context current; upload not tested";
+    while (glGetError() != GL_NO_ERROR) {
+    }
+  }
+  void TearDown() override {
+    m_context.reset();
+    m_frame.reset();
+  }
+
+  static void LevelSize(GLuint texture, GLint& width, GLint& height) {
+    glBindTexture(GL_TEXTURE_2D, texture);
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_WIDTH, &width);
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_HEIGHT, &height);
+  }
+  static std::vector<unsigned char> ReadBack(GLuint texture, GLenum format, int bytes) {
+    std::vector<unsigned char> pixels(bytes, 0xEE);
+    glBindTexture(GL_TEXTURE_2D, texture);
+    glPixelStorei(GL_PACK_ALIGNMENT, 1);
+    glGetTexImage(GL_TEXTURE_2D, 0, format, GL_UNSIGNED_BYTE, pixels.data());
+    return pixels;
+  }
+
+  std::unique_ptr<TestFrame> m_frame;
+  wxGLCanvas* m_canvas = nullptr;
+  std::unique_ptr<wxGLContext> m_context;
+};
+
+BitmapA Gradient(int width, int height) {
+  BitmapA bmp;
+  bmp.width = width;
+  bmp.height = height;
+  bmp.format = 3;
+  for (int y = 0; y < height; ++y)
+    for (int x = 0; x < width; ++x)
+      bmp.data.insert(bmp.data.end(), {static_cast<unsigned char>(x), static_cast<unsigned char>(y),
+                                       7, static_cast<unsigned char>(200 + (x + y) % 50)});
+  return bmp;
+}
+}  // namespace
+
+TEST_F(GLTexture, RgbaUploadIsPaddedToPowersOfTwo) {
+  const BitmapA image = Gradient(100, 64);
+  CGLImage texture;
+  ASSERT_TRUE(texture.Copy(image));
+  EXPECT_NE(texture.GetImage(), 0u);
+  EXPECT_EQ(texture.GetWidth(), 100);
+  EXPECT_EQ(texture.GetHeight(), 64);
+  EXPECT_EQ(texture.GetTexWidth(), 128);
+  EXPECT_EQ(texture.GetTexHeight(), 64);
+  EXPECT_FLOAT_EQ(texture.GetfTexWidth(), 0.78125f);
+  EXPECT_FLOAT_EQ(texture.GetfTexHeight(), 1.0f);
+  GLint w = 0, h = 0;
+  LevelSize(texture.GetImage(), w, h);
+  EXPECT_EQ(w, 128);
+  EXPECT_EQ(h, 64);
+  GLint filter = 0, wrap = 0;
+  glGetTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, &filter);
+  glGetTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, &wrap);
+  EXPECT_EQ(filter, GL_NEAREST);
+  EXPECT_EQ(wrap, GL_CLAMP);
+
+  const std::vector<unsigned char> px = ReadBack(texture.GetImage(), GL_RGBA, 128 * 64 * 4);
+  auto at = [&](int x, int y) { return &px[(static_cast<std::size_t>(y) * 128 + x) * 4]; };
+  for (auto [x, y] : {std::pair{0, 0}, {99, 0}, {37, 63}, {99, 63}}) {
+    const unsigned char* want = image.Pixel(x, y);
+    EXPECT_EQ(std::vector<unsigned char>(at(x, y), at(x, y) + 4),
+              std::vector<unsigned char>(want, want + 4))
+        << x << "," << y;
+  }
+  EXPECT_EQ(std::vector<unsigned char>(at(100, 0), at(100, 0) + 4),
+            std::vector<unsigned char>(4, 0));
+  EXPECT_EQ(std::vector<unsigned char>(at(127, 63), at(127, 63) + 4),
+            std::vector<unsigned char>(4, 0));
+
+  // A second upload replaces the texture.
+  const GLuint first = texture.GetImage();
+  ASSERT_TRUE(texture.Copy(Gradient(3, 5)));
+  EXPECT_EQ(texture.GetTexWidth(), 4);
+  EXPECT_EQ(texture.GetTexHeight(), 8);
+  EXPECT_FLOAT_EQ(texture.GetfTexHeight(), 0.625f);
+  EXPECT_TRUE(first == texture.GetImage() || !glIsTexture(first));
+  texture.Clear();
+  EXPECT_EQ(texture.GetImage(), 0u);
+  EXPECT_EQ(texture.GetWidth(), 3);
+}
+
+TEST_F(GLTexture, GreyBitmapUploadsAsRgb) {
+  Bitmap grey;
+  grey.width = 3;
+  grey.height = 1;
+  grey.format = 1;
+  grey.data = {10, 128, 250};
+  CGLImage texture;
+  ASSERT_TRUE(texture.Copy(grey));
+  GLint w = 0, h = 0;
+  LevelSize(texture.GetImage(), w, h);
+  EXPECT_EQ(w, 4);
+  EXPECT_EQ(h, 1);
+  EXPECT_FLOAT_EQ(texture.GetfTexWidth(), 0.75f);
+  const std::vector<unsigned char> px = ReadBack(texture.GetImage(), GL_RGB, 4 * 3);
+  EXPECT_EQ(px, (std::vector<unsigned char>{10, 10, 10, 128, 128, 128, 250, 250, 250, 0, 0, 0}));
+}
+
+TEST_F(GLTexture, PendingErrorsArePrinted) {
+  Bitmap rgb;
+  rgb.width = 2;
+  rgb.height = 2;
+  rgb.format = 3;
+  rgb.data.assign(12, 9);
+  CaptureDprintf capture;
+  glEnable(0x7FFF);  // leaves GL_INVALID_ENUM pending
+  CGLImage texture;
+  EXPECT_TRUE(texture.Copy(rgb));
+  ASSERT_EQ(capture.Lines().size(), 1u) << capture.All();
+  EXPECT_EQ(capture.Lines()[0].rfind("Error : ", 0), 0u) << capture.All();
+  EXPECT_NE(capture.All().find("invalid enum"), std::string::npos) << capture.All();
+
+  capture.ClearLines();
+  glEnable(0x7FFF);
+  CGLImage rgba;  // the RGBA upload reports a pending error once, after glTexImage2D
+  EXPECT_TRUE(rgba.Copy(Gradient(2, 2)));
+  EXPECT_EQ(capture.Lines().size(), 1u) << capture.All();
+}
+
+TEST_F(GLTexture, CacheCopiesEveryState) {
+  BitmapA off = Gradient(16, 8), down = Gradient(5, 5);
+  VornBitmapACache source;
+  source.AssignImage(VIT_OFF, &off);
+  source.AssignImage(VIT_OFF_DOWN, &down);
+  VornGLTextureCache textures;
+  ASSERT_TRUE(CopyImageCache(textures, source));
+  std::vector<VORNIMAGETYPE> states;
+  textures.GetStates(states);
+  EXPECT_EQ(states, (std::vector<VORNIMAGETYPE>{VIT_OFF, VIT_OFF_DOWN}));
+  EXPECT_EQ(textures.GetWidth(), 16);
+  EXPECT_EQ(textures.GetHeight(), 8);
+  const CGLImage* texture = nullptr;
+  ASSERT_TRUE(textures.GetImage(VIT_OFF_DOWN, texture));
+  EXPECT_EQ(texture->GetTexWidth(), 8);
+  EXPECT_TRUE(glIsTexture(texture->GetImage()));
+
+  EXPECT_FALSE(textures.CopyConvertImage(VIT_ON, nullptr));
+  VornBitmapACache empty;
+  VornGLTextureCache none;
+  EXPECT_FALSE(CopyImageCache(none, empty));
+  EXPECT_EQ(FiredAssertion([&] { CopyImageCache(textures, source); }),
+            "m_images[index].bOwn == false");
+  const GLuint name = texture->GetImage();
+  textures.Clear();
+  EXPECT_FALSE(glIsTexture(name));
+}
