@@ -186,7 +186,8 @@ class VornWallpaperImageCache : public VornImageCache<T> {
       info.bitmap = slot;
       return true;
     }
-    if (!ImageInfoList.empty() && this->InRange(state) && ImageInfoList[state].bitmap) {
+    if (this->InRange(state) && static_cast<std::size_t>(state) < ImageInfoList.size() &&
+        ImageInfoList[state].bitmap) {
       info = ImageInfoList[state];
       return true;
     }
@@ -232,7 +233,8 @@ class VornwxBitmapCache : public VornWallpaperImageCache<wxBitmap> {
   ~VornwxBitmapCache() override = default;
   int GetImageWidth(const wxBitmap* image) const override;
   int GetImageHeight(const wxBitmap* image) const override;
-  std::unique_ptr<wxBitmap> MakeImageFromWallpaper(WallpaperImageInfo<wxBitmap> info) const override;
+  std::unique_ptr<wxBitmap> MakeImageFromWallpaper(
+      WallpaperImageInfo<wxBitmap> info) const override;
 };
 
 // One 1000 x 1000 sheet filled shelf by shelf.

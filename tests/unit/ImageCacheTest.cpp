@@ -270,3 +270,14 @@ TEST(TextureSize, RoundsUpToPowersOfTwo) {
                           {1000, 1024}, {1024, 1024}, {1025, 2048}, {16383, 16384}};
   for (const auto& c : cases) EXPECT_EQ(VornTextureSize(c[0]), c[1]) << c[0];
 }
+
+TEST_F(CountingTest, ShortWallpaperListIsReadOnlyWithinItsEntries) {
+  Counted sheet(1000, 1000);
+  CountedWallpaperCache cache;
+  std::vector<WallpaperImageInfo<Counted>> list = InfoList(&sheet, {VIT_SPARE});
+  list.resize(3);
+  cache.SetWallpaperInfo(list);
+  const Counted* out = nullptr;
+  EXPECT_FALSE(cache.GetImage(VIT_OFF_DOWN, out));
+  EXPECT_TRUE(cache.GetImage(VIT_SPARE, out));
+}
