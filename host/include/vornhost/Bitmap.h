@@ -65,11 +65,12 @@ bool Set(BitmapA& bmp, int x, int y, const ColorA& c);
 bool Get(const Bitmap& bmp, int x, int y, Color& out);
 bool Get(const BitmapA& bmp, int x, int y, ColorA& out);
 
-// Sets every pixel.
+// Sets every pixel (false for an empty bitmap).
 bool ClearBitmap(Bitmap& bmp, const Color& c);
 bool ClearBitmap(BitmapA& bmp, const ColorA& c);
 
-// dst becomes an exact copy (size, format, pixels).
+// dst becomes an exact copy (size, format, pixels); an empty src gives an
+// empty dst.
 bool Copy(Bitmap& dst, const Bitmap& src);
 bool Copy(BitmapA& dst, const BitmapA& src);
 
@@ -80,7 +81,8 @@ bool Crop(BitmapA& dst, const BitmapA& src, int x, int y, int w, int h);
 
 // Draws top onto dst with its top-left corner at (x, y), clipped to dst.
 // For BitmapA the top image's alpha blends it over dst ("over" compositing);
-// the Bitmap form copies. Both images must have the same format.
+// the Bitmap form copies. Both images must have the same format. A top image
+// lying entirely outside dst draws nothing and is not an error.
 bool Blit(Bitmap& dst, const Bitmap& top, int x, int y);
 bool Blit(BitmapA& dst, const BitmapA& top, int x, int y);
 
@@ -96,8 +98,10 @@ bool ConvertTo(Bitmap& dst, const BitmapA& src);
 bool ConvertTo(BitmapA& dst, const Bitmap& src);
 
 // Decodes PNG bytes (RGB, RGBA, grey, grey+alpha and palette files, any bit
-// depth) into a format-3 image. False, output unchanged, for corrupt or
-// truncated data or an image larger than kMaxBitmapSide.
+// depth) into a format-3 image; the Bitmap form drops alpha and keeps the
+// colour. False, output unchanged, for corrupt or truncated data, an image
+// larger than kMaxBitmapSide, or a header claiming more pixels than the bytes
+// could hold.
 bool LoadBitmapDecode(const unsigned char* data, int size, Bitmap& out);
 bool LoadBitmapADecode(const unsigned char* data, int size, BitmapA& out);
 

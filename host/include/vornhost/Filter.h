@@ -21,7 +21,9 @@ class Filter {
   virtual bool WritePixel(int x, int y, ColorA& c) = 0;
   // Reads one pixel; false outside the image.
   virtual bool ReadPixel(ColorA& c, int x, int y) const = 0;
-  // Blends c into the pixel with weight intensity (0..1).
+  // Blends c into the pixel with weight intensity (0..1): 1 is a plain write,
+  // 0 leaves the pixel. Images with alpha mix premultiplied colours, so a
+  // transparent pixel does not darken what is drawn over it.
   virtual bool WritePixelI(int x, int y, ColorA& c, double intensity) = 0;
   virtual bool WritePoint(const FilterPoint& p, ColorA& c);
   virtual bool ReadPoint(ColorA& c, const FilterPoint& p) const;
@@ -126,6 +128,8 @@ class UnDoFilter : public Filter {
 
 // Fills every pixel with c.
 bool Clear(Filter& f, const ColorA& c);
+// In the operations below dst and src may be the same filter; two different
+// filters over one image must not overlap.
 // dst takes src's size and pixels (when dst cannot be resized, the overlap is
 // copied).
 bool Copy(Filter& dst, const Filter& src);
@@ -147,9 +151,12 @@ bool Rotate(Filter& dst, const Filter& src, double degrees);
 // AntiAlias() filter they draw with anti-aliasing, else with whole pixels.
 bool DrawLine(Filter& f, int x1, int y1, int x2, int y2, const ColorA& c);
 // A quarter ellipse centred at (x1, y2) from (x1, y1) to (x2, y2): the four
-// arguments name the arc's two end points.
+// arguments name the arc's two end points. When x1 == x2 or y1 == y2 the
+// ellipse is flat and the arc is the straight line between the points.
 bool DrawArc(Filter& f, int x1, int y1, int x2, int y2, const ColorA& c);
-// A circle of radius r centred at (cx, cy); filled when fill is true.
+// A circle of radius r centred at (cx, cy); filled when fill is true (whole
+// pixels within r + 1/2 of the centre, or by coverage when anti-aliased).
+// Radius 0 is the centre pixel; a negative radius fails.
 bool DrawCircle(Filter& f, int cx, int cy, int r, const ColorA& c, bool fill);
 
 inline bool DrawLine(AntiAliasFilter&& f, int x1, int y1, int x2, int y2, const ColorA& c) {
