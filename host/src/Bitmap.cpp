@@ -77,6 +77,16 @@ void Encode(const BitmapA& bmp, const ColorA& c, unsigned char* out) {
   }
 }
 
+template <class B, class C>
+bool ClearBitmapImpl(B& bmp, const C& c) {
+  if (!Valid(bmp)) return false;
+  unsigned char px[4];
+  Encode(bmp, c, px);
+  const int bpp = bmp.BytesPerPixel();
+  for (std::size_t i = 0; i < bmp.data.size(); i += bpp) std::memcpy(&bmp.data[i], px, bpp);
+  return true;
+}
+
 template <class B>
 bool CropImpl(B& dst, const B& src, int x, int y, int w, int h) {
   if (!Valid(src) || w <= 0 || h <= 0) return false;
@@ -160,21 +170,10 @@ bool Get(const BitmapA& bmp, int x, int y, ColorA& out) {
 }
 
 bool ClearBitmap(Bitmap& bmp, const Color& c) {
-  if (!Valid(bmp)) return false;
-  unsigned char px[3];
-  Encode(bmp, c, px);
-  const int bpp = bmp.BytesPerPixel();
-  for (std::size_t i = 0; i < bmp.data.size(); i += bpp) std::memcpy(&bmp.data[i], px, bpp);
-  return true;
+  return ClearBitmapImpl(bmp, c);
 }
-
 bool ClearBitmap(BitmapA& bmp, const ColorA& c) {
-  if (!Valid(bmp)) return false;
-  unsigned char px[4];
-  Encode(bmp, c, px);
-  const int bpp = bmp.BytesPerPixel();
-  for (std::size_t i = 0; i < bmp.data.size(); i += bpp) std::memcpy(&bmp.data[i], px, bpp);
-  return true;
+  return ClearBitmapImpl(bmp, c);
 }
 
 bool Copy(Bitmap& dst, const Bitmap& src) {

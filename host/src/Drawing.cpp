@@ -83,52 +83,53 @@ unsigned QuadrantBit(int sx, int sy) {
   return sy > 0 ? kLeftDown : kLeftUp;
 }
 
+// One pass of an ellipse: along the columns (or, transposed, the rows) whose
+// offset from the centre is at most limit, one curve sample each. Pixels
+// whose offset across the pass is at most skip are left to the other pass.
+struct EllipseAxes {
+  bool rows;  // pass runs along the rows (major axis is y)
+  i64 centreMajor, centreMinor;
+  double radiusMajor, radiusMinor;
+};
+
+void EllipsePass(Painter& p, const EllipseAxes& e, i64 limit, i64 skip, unsigned mask) {
+  const i64 extent = e.rows ? p.Height() : p.Width();
+  const i64 first = std::max<i64>(e.centreMajor - limit, 0);
+  const i64 last = std::min<i64>(e.centreMajor + limit, extent - 1);
+  for (i64 m = first; m <= last; ++m) {
+    const i64 d = m - e.centreMajor;
+    const double t = static_cast<double>(d) / e.radiusMajor;
+    const double v = e.radiusMinor * std::sqrt(std::max(0.0, 1.0 - t * t));
+    PixelRun run;
+    for (int sMinor = -1; sMinor <= 1; sMinor += 2) {
+      bool wanted = false;
+      for (int sMajor = -1; sMajor <= 1; sMajor += 2) {
+        const unsigned bit = e.rows ? QuadrantBit(sMinor, sMajor) : QuadrantBit(sMajor, sMinor);
+        if ((d == 0 || (d > 0) == (sMajor > 0)) && (mask & bit)) wanted = true;
+      }
+      if (wanted) run.AddPosition(v, sMinor, p.AntiAliased());
+    }
+    run.Emit([&](i64 off, double value) {
+      if (std::llabs(off) <= skip) return;
+      if (e.rows)
+        p.Plot(e.centreMinor + off, m, value);
+      else
+        p.Plot(m, e.centreMinor + off, value);
+    });
+  }
+}
+
 // Draws the quadrants named by mask of the ellipse with centre (cx, cy) and
 // radii rx, ry (both positive). Columns where the curve is flatter than 45
 // degrees get one sample per column, the rest one per row (Wu's method when
-// anti-aliased), so the curve has no gaps.
+// anti-aliased), so the curve has no gaps and no pixel is drawn twice.
 void DrawEllipse(Painter& p, i64 cx, i64 cy, i64 rx, i64 ry, unsigned mask) {
-  const bool aa = p.AntiAliased();
   const double frx = static_cast<double>(rx), fry = static_cast<double>(ry);
   const double diag = std::sqrt(frx * frx + fry * fry);
   const i64 colLimit = static_cast<i64>(std::floor(frx * frx / diag));
   const i64 rowLimit = static_cast<i64>(std::floor(fry * fry / diag));
-
-  // Column pass: |dx| <= colLimit.
-  const i64 x0 = std::max<i64>(cx - colLimit, 0);
-  const i64 x1 = std::min<i64>(cx + colLimit, p.Width() - 1);
-  for (i64 x = x0; x <= x1; ++x) {
-    const i64 dx = x - cx;
-    const double t = static_cast<double>(dx) / frx;
-    const double y = fry * std::sqrt(std::max(0.0, 1.0 - t * t));
-    PixelRun run;
-    for (int sy = -1; sy <= 1; sy += 2) {
-      bool wanted = false;
-      for (int sx = -1; sx <= 1; sx += 2)
-        if ((dx == 0 || (dx > 0) == (sx > 0)) && (mask & QuadrantBit(sx, sy))) wanted = true;
-      if (wanted) run.AddPosition(y, sy, aa);
-    }
-    run.Emit([&](i64 dy, double v) { p.Plot(x, cy + dy, v); });
-  }
-
-  // Row pass: |dy| <= rowLimit; columns the first pass owns are left to it.
-  const i64 y0 = std::max<i64>(cy - rowLimit, 0);
-  const i64 y1 = std::min<i64>(cy + rowLimit, p.Height() - 1);
-  for (i64 y = y0; y <= y1; ++y) {
-    const i64 dy = y - cy;
-    const double t = static_cast<double>(dy) / fry;
-    const double x = frx * std::sqrt(std::max(0.0, 1.0 - t * t));
-    PixelRun run;
-    for (int sx = -1; sx <= 1; sx += 2) {
-      bool wanted = false;
-      for (int sy = -1; sy <= 1; sy += 2)
-        if ((dy == 0 || (dy > 0) == (sy > 0)) && (mask & QuadrantBit(sx, sy))) wanted = true;
-      if (wanted) run.AddPosition(x, sx, aa);
-    }
-    run.Emit([&](i64 dx, double v) {
-      if (std::llabs(dx) > colLimit) p.Plot(cx + dx, y, v);
-    });
-  }
+  EllipsePass(p, EllipseAxes{false, cx, cy, frx, fry}, colLimit, -1, mask);
+  EllipsePass(p, EllipseAxes{true, cy, cx, fry, frx}, rowLimit, colLimit, mask);
 }
 
 }  // namespace
