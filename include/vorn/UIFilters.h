@@ -1,6 +1,6 @@
 #pragma once
 // Filters through which the host's drawing functions paint into a wxImage, or
-// into a wxBitmap with undo.
+// into a wxBitmap with undo. The point forms of access are Filter's own.
 #include <wx/bitmap.h>
 #include <wx/image.h>
 
@@ -16,9 +16,6 @@ class BasicwxImageFilter : public Filter {
   bool ReadPixel(ColorA& c, int x, int y) const override;
   // Each channel becomes trunc(c * i * 255 + old * (1 - i) + 0.5).
   bool WritePixelI(int x, int y, ColorA& c, double intensity) override;
-  bool WritePoint(const FilterPoint& p, ColorA& c) override;
-  bool ReadPoint(ColorA& c, const FilterPoint& p) const override;
-  bool WritePointI(const FilterPoint& p, ColorA& c, double intensity) override;
   int GetWidth() const override;
   int GetHeight() const override;
   bool Clear() override;
@@ -41,9 +38,6 @@ class wxBitmapUnDoFilter : public Filter {
   bool WritePixel(int x, int y, ColorA& c) override;
   bool ReadPixel(ColorA& c, int x, int y) const override;
   bool WritePixelI(int x, int y, ColorA& c, double intensity) override;
-  bool WritePoint(const FilterPoint& p, ColorA& c) override;
-  bool ReadPoint(ColorA& c, const FilterPoint& p) const override;
-  bool WritePointI(const FilterPoint& p, ColorA& c, double intensity) override;
   int GetWidth() const override;
   int GetHeight() const override;
   bool Clear() override;

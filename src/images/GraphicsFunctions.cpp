@@ -59,6 +59,22 @@ bool ImageFromBitmap(wxImage& dst, const B& src) {
   return true;
 }
 
+template <class B>
+bool BitmapFromHost(wxBitmap& dst, const B& src) {
+  wxImage image;
+  const bool converted = ImageFromBitmap(image, src);
+  if (converted) dst = wxBitmap(image);
+  return converted;
+}
+
+template <class B>
+bool BlitOntoCopy(wxImage& dst, const B& base, const B& top, int x, int y) {
+  B composed;
+  if (!Copy(composed, base)) return false;
+  Blit(composed, top, x, y);
+  return ImageFromBitmap(dst, composed);
+}
+
 bool GreyMaskUsable(const BitmapA& dst, const wxImage& grey) {
   const int gw = grey.IsOk() ? grey.GetWidth() : 0;
   const int gh = grey.IsOk() ? grey.GetHeight() : 0;
@@ -151,17 +167,11 @@ bool ConvertTo(wxImage& dst, const Bitmap& src) {
 }
 
 bool ConvertTo(wxBitmap& dst, const BitmapA& src) {
-  wxImage image;
-  const bool converted = ConvertTo(image, src);
-  if (converted) dst = wxBitmap(image);
-  return converted;
+  return BitmapFromHost(dst, src);
 }
 
 bool ConvertTo(wxBitmap& dst, const Bitmap& src) {
-  wxImage image;
-  const bool converted = ConvertTo(image, src);
-  if (converted) dst = wxBitmap(image);
-  return converted;
+  return BitmapFromHost(dst, src);
 }
 
 bool Copy(wxImage& dst, const wxImage& src) {
@@ -170,17 +180,11 @@ bool Copy(wxImage& dst, const wxImage& src) {
 }
 
 bool BlitwxImage(wxImage& dst, BitmapA& base, BitmapA& top, int x, int y) {
-  BitmapA composed;
-  if (!Copy(composed, base)) return false;
-  Blit(composed, top, x, y);
-  return ConvertTo(dst, composed);
+  return BlitOntoCopy(dst, base, top, x, y);
 }
 
 bool BlitwxImage(wxImage& dst, Bitmap& base, Bitmap& top, int x, int y) {
-  Bitmap composed;
-  if (!Copy(composed, base)) return false;
-  Blit(composed, top, x, y);
-  return ConvertTo(dst, composed);
+  return BlitOntoCopy(dst, base, top, x, y);
 }
 
 Color WxCtoC(const wxColour& c) {
@@ -200,9 +204,8 @@ wxColour CAtoWxC(const ColorA& c) {
 }
 
 bool ClearwxImage(wxImage& image, const Color& c) {
-  const bool usable = image.IsOk() && image.GetWidth() > 0 && image.GetHeight() > 0;
-  VORN_ASSERT(usable);
-  if (!usable) return false;
+  VORN_ASSERT(image.IsOk() && image.GetWidth() > 0 && image.GetHeight() > 0);
+  if (!image.IsOk() || image.GetWidth() <= 0 || image.GetHeight() <= 0) return false;
   const unsigned char rgb[3] = {ClampByte(c.r * 255), ClampByte(c.g * 255), ClampByte(c.b * 255)};
   unsigned char* px = image.GetData();
   const std::size_t count = static_cast<std::size_t>(image.GetWidth()) * image.GetHeight();

@@ -43,18 +43,6 @@ bool BasicwxImageFilter::WritePixelI(int x, int y, ColorA& c, double intensity) 
   return true;
 }
 
-bool BasicwxImageFilter::WritePoint(const FilterPoint& p, ColorA& c) {
-  return WritePixel(p.x, p.y, c);
-}
-
-bool BasicwxImageFilter::ReadPoint(ColorA& c, const FilterPoint& p) const {
-  return ReadPixel(c, p.x, p.y);
-}
-
-bool BasicwxImageFilter::WritePointI(const FilterPoint& p, ColorA& c, double intensity) {
-  return WritePixelI(p.x, p.y, c, intensity);
-}
-
 int BasicwxImageFilter::GetWidth() const {
   return m_image.IsOk() ? m_image.GetWidth() : 0;
 }
@@ -97,18 +85,6 @@ bool wxBitmapUnDoFilter::WritePixelI(int x, int y, ColorA& c, double intensity) 
   if (!m_undo.WritePixelI(x, y, c, intensity)) return false;
   MirrorPixel(x, y);
   return true;
-}
-
-bool wxBitmapUnDoFilter::WritePoint(const FilterPoint& p, ColorA& c) {
-  return WritePixel(p.x, p.y, c);
-}
-
-bool wxBitmapUnDoFilter::ReadPoint(ColorA& c, const FilterPoint& p) const {
-  return ReadPixel(c, p.x, p.y);
-}
-
-bool wxBitmapUnDoFilter::WritePointI(const FilterPoint& p, ColorA& c, double intensity) {
-  return WritePixelI(p.x, p.y, c, intensity);
 }
 
 int wxBitmapUnDoFilter::GetWidth() const {
