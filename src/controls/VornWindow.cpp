@@ -21,8 +21,10 @@ VornWindowKeyEvent::VornWindowKeyEvent(wxEventType type, const wxKeyEvent& key)
       m_keyCode(key.GetKeyCode()),
       m_bMetaDown(key.MetaDown()),
       m_bShiftDown(key.ShiftDown()),
-      m_x(key.GetX()),
-      m_y(key.GetY()) {}
+      // The stored position: GetX() would substitute the current pointer
+      // position for events that carry none.
+      m_x(key.m_x),
+      m_y(key.m_y) {}
 
 VornHintEvent::VornHintEvent(int eventType, unsigned int id, VornControl* source,
                              VornControlHint* hint)
