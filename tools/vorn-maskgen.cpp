@@ -85,6 +85,18 @@ Mask Minus(const Mask& a, const Mask& b) {
   return Combine(a, [&](int x, int y, float v) { return v - b.get(x, y); });
 }
 
+// The mask at strength on its top row, fading out over the next rows: light
+// from above, or the shadow the rim throws into a well.
+Mask TopFade(const Mask& m, float rows, float strength) {
+  return Combine(
+      m, [=](int, int y, float v) { return v * std::max(0.f, 1.f - (y - 1) / rows) * strength; });
+}
+
+// The one-pixel edge of a mask that faces up (dy = -1) or down (dy = 1).
+Mask Edge(const Mask& m, int dy, float strength) {
+  return Combine(m, [&](int x, int y, float v) { return (v - m.get(x, y + dy)) * strength; });
+}
+
 bool Save(const std::string& dir, const std::string& name, const Mask& m) {
   Bitmap bmp;
   if (!Create(bmp, m.w, m.h, 3)) return false;
@@ -137,16 +149,10 @@ void RaisedFace(Writer& out, const std::string& p, int w, int h, float r) {
   out(p + "_shape.png", shape);
   out(p + "_border.png", Minus(shape, body));
   out(p + "_body.png", body);
-  out(p + "_sheen.png", Combine(body, [&](int, int y, float v) {
-        return v * std::max(0.f, 1.f - (y - 1) / (h * 0.6f)) * 0.16f;
-      }));
-  out(p + "_bevel.png",
-      Combine(body, [&](int x, int y, float v) { return (v - body.get(x, y - 1)) * 0.55f; }));
-  out(p + "_shade.png",
-      Combine(body, [&](int x, int y, float v) { return (v - body.get(x, y + 1)) * 0.6f; }));
-  out(p + "_inset.png", Combine(body, [&](int, int y, float v) {
-        return v * std::max(0.f, 1.f - (y - 1) / 3.5f) * 0.5f;
-      }));
+  out(p + "_sheen.png", TopFade(body, h * 0.6f, 0.16f));
+  out(p + "_bevel.png", Edge(body, -1, 0.55f));
+  out(p + "_shade.png", Edge(body, 1, 0.6f));
+  out(p + "_inset.png", TopFade(body, 3.5f, 0.5f));
 }
 
 // A sunken, rounded well (edit fields): outline, inner well, top shadow and
@@ -157,11 +163,8 @@ void SunkenWell(Writer& out, const std::string& p, int w, int h, float r) {
   out(p + "_shape.png", shape);
   out(p + "_border.png", Minus(shape, well));
   out(p + "_well.png", well);
-  out(p + "_inset.png", Combine(well, [&](int, int y, float v) {
-        return v * std::max(0.f, 1.f - (y - 1) / 4.f) * 0.55f;
-      }));
-  out(p + "_lip.png",
-      Combine(shape, [&](int x, int y, float v) { return (v - shape.get(x, y + 1)) * 0.35f; }));
+  out(p + "_inset.png", TopFade(well, 4, 0.55f));
+  out(p + "_lip.png", Edge(shape, 1, 0.35f));
 }
 
 // An isoceles arrow head pointing up (dir -1) or down (dir 1), centred at
@@ -204,9 +207,7 @@ void Generate(Writer& out) {
     out("toggle_shape.png", shape);
     out("toggle_border.png", Minus(shape, track));
     out("toggle_track.png", track);
-    out("toggle_inset.png", Combine(track, [&](int, int y, float v) {
-          return v * std::max(0.f, 1.f - (y - 1) / 4.f) * 0.45f;
-        }));
+    out("toggle_inset.png", TopFade(track, 4, 0.45f));
     struct Knob {
       const char* name;
       float x0, x1;  // centres of the knob's two ends (equal for a round knob)
@@ -232,9 +233,7 @@ void Generate(Writer& out) {
     out("radio_shape.png", shape);
     out("radio_ring.png", Minus(shape, well));
     out("radio_well.png", well);
-    out("radio_inset.png", Combine(well, [&](int, int y, float v) {
-          return v * std::max(0.f, 1.f - (y - 1) / 5.f) * 0.5f;
-        }));
+    out("radio_inset.png", TopFade(well, 5, 0.5f));
     out("radio_dot.png", Fill(s, s, Circle(9, 9, 4.2f)));
     out("radio_dot_down.png", Fill(s, s, Circle(9, 9, 3.2f)));
   }
@@ -254,12 +253,8 @@ void Generate(Writer& out) {
     out("moon_shape.png", shape);
     out("moon_border.png", Minus(shape, body));
     out("moon_body.png", body);
-    out("moon_sheen.png", Combine(body, [&](int, int y, float v) {
-          return v * std::max(0.f, 1.f - (y - 1) / 12.f) * 0.16f;
-        }));
-    out("moon_inset.png", Combine(body, [&](int, int y, float v) {
-          return v * std::max(0.f, 1.f - (y - 1) / 4.f) * 0.5f;
-        }));
+    out("moon_sheen.png", TopFade(body, 12, 0.16f));
+    out("moon_inset.png", TopFade(body, 4, 0.5f));
     const Field crescent = Subtract(Circle(11, 11, 6), Circle(13.6f, 8.8f, 5));
     out("moon_crescent.png", Fill(s, s, crescent));
     out("moon_crescent_down.png", Fill(s, s, [&](float x, float y) { return crescent(x, y - 1); }));

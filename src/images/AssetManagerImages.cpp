@@ -109,20 +109,54 @@ bool ToBitmap(wxBitmap& out, const wxImage& image) {
   return out.IsOk();
 }
 
-// Each state of a script-built set, converted to another image type.
-template <class Cache, class Convert>
-bool ConvertStates(const VornBitmapACache& source, Cache& dst, Convert convert) {
+// One state image of a script-built set in another image type; null when the
+// conversion fails.
+std::unique_ptr<Bitmap> Converted(const BitmapA& image, const Bitmap*) {
+  auto out = std::make_unique<Bitmap>();
+  if (!ConvertTo(*out, image)) out.reset();
+  return out;
+}
+std::unique_ptr<wxImage> Converted(const BitmapA& image, const wxImage*) {
+  auto out = std::make_unique<wxImage>();
+  if (!ConvertTo(*out, image)) out.reset();
+  return out;
+}
+std::unique_ptr<wxBitmap> Converted(const BitmapA& image, const wxBitmap*) {
+  wxImage converted;
+  auto out = std::make_unique<wxBitmap>();
+  if (!ConvertTo(converted, image) || !ToBitmap(*out, converted)) out.reset();
+  return out;
+}
+
+// A state set built as BitmapA images, then converted state by state.
+template <class T>
+bool LoadConvertedStates(AssetManager& manager, const char* name, VornImageCache<T>& dst) {
+  VornBitmapACache source;
+  if (!manager.LoadImages(name, source)) return false;
   dst.Clear();
   std::vector<VORNIMAGETYPE> states;
   source.GetStates(states);
   for (VORNIMAGETYPE state : states) {
     const BitmapA* image = nullptr;
     if (!source.GetImage(state, image)) continue;
-    auto converted = convert(*image);
+    std::unique_ptr<T> converted = Converted(*image, static_cast<const T*>(nullptr));
     if (!converted) return false;
     dst.AssignImageOwn(state, converted.release());
   }
   return true;
+}
+
+// A picture by the ending of its name.
+template <class T>
+bool LoadByKind(AssetManager& manager, const char* name, T& out) {
+  switch (KindOf(name)) {
+    case PictureKind::kPicture:
+      return manager.LoadImageDirect(name, out);
+    case PictureKind::kScript:
+      return manager.LoadImageFromScript(name, out);
+    default:
+      return false;
+  }
 }
 
 // The shared object for name: found in the map, or loaded and inserted.
@@ -147,36 +181,15 @@ bool LoadShared(std::map<std::string, std::unique_ptr<T>>& map, const char* name
 // ---- Single pictures ------------------------------------------------------
 
 bool AssetManager::LoadImage(const char* name, wxImage& out) {
-  switch (KindOf(name)) {
-    case PictureKind::kPicture:
-      return LoadImageDirect(name, out);
-    case PictureKind::kScript:
-      return LoadImageFromScript(name, out);
-    default:
-      return false;
-  }
+  return LoadByKind(*this, name, out);
 }
 
 bool AssetManager::LoadImage(const char* name, BitmapA& out) {
-  switch (KindOf(name)) {
-    case PictureKind::kPicture:
-      return LoadImageDirect(name, out);
-    case PictureKind::kScript:
-      return LoadImageFromScript(name, out);
-    default:
-      return false;
-  }
+  return LoadByKind(*this, name, out);
 }
 
 bool AssetManager::LoadImage(const char* name, Bitmap& out) {
-  switch (KindOf(name)) {
-    case PictureKind::kPicture:
-      return LoadImageDirect(name, out);
-    case PictureKind::kScript:
-      return LoadImageFromScript(name, out);
-    default:
-      return false;
-  }
+  return LoadByKind(*this, name, out);
 }
 
 bool AssetManager::LoadImage(const char* name, wxBitmap& out) {
@@ -265,34 +278,15 @@ bool AssetManager::LoadImagesFromScript(const std::string& text, VornBitmapACach
 }
 
 bool AssetManager::LoadImages(const char* name, VornBitmapCache& cache) {
-  VornBitmapACache scratch;
-  if (!LoadImages(name, scratch)) return false;
-  return ConvertStates(scratch, cache, [](const BitmapA& image) {
-    auto out = std::make_unique<Bitmap>();
-    if (!ConvertTo(*out, image)) out.reset();
-    return out;
-  });
+  return LoadConvertedStates(*this, name, cache);
 }
 
 bool AssetManager::LoadImages(const char* name, VornwxImageCache& cache) {
-  VornBitmapACache scratch;
-  if (!LoadImages(name, scratch)) return false;
-  return ConvertStates(scratch, cache, [](const BitmapA& image) {
-    auto out = std::make_unique<wxImage>();
-    if (!ConvertTo(*out, image)) out.reset();
-    return out;
-  });
+  return LoadConvertedStates(*this, name, cache);
 }
 
 bool AssetManager::LoadImages(const char* name, VornwxBitmapCache& cache) {
-  VornBitmapACache scratch;
-  if (!LoadImages(name, scratch)) return false;
-  return ConvertStates(scratch, cache, [](const BitmapA& image) {
-    wxImage converted;
-    auto out = std::make_unique<wxBitmap>();
-    if (!ConvertTo(converted, image) || !ToBitmap(*out, converted)) out.reset();
-    return out;
-  });
+  return LoadConvertedStates(*this, name, cache);
 }
 
 // ---- Cached forms -----------------------------------------------------------
