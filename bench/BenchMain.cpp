@@ -30,8 +30,12 @@ class CollectingReporter : public benchmark::ConsoleReporter {
                       static_cast<double>(counter));
         r.counters += buf;
       }
-      m_results[run.benchmark_name()] = r;
-      m_order.push_back(run.benchmark_name());
+      // The figure's own name, without the "/real_time" or "/iterations:N"
+      // that run options append, so that baselines still pair up.
+      std::string figure = run.run_name.function_name;
+      if (!run.run_name.args.empty()) figure += "/" + run.run_name.args;
+      m_results[figure] = r;
+      m_order.push_back(figure);
     }
     ConsoleReporter::ReportRuns(runs);
   }

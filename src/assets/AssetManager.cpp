@@ -69,6 +69,17 @@ struct Identities {
   static constexpr int kTries = 7;
 };
 
+using AssetIndex = std::multimap<std::string, std::unique_ptr<Asset>>;
+
+// The entries under name: one descent of the tree, then a short walk.
+std::pair<AssetIndex::const_iterator, AssetIndex::const_iterator> VariantsOf(
+    const AssetIndex& index, const std::string& name) {
+  auto first = index.lower_bound(name);
+  auto last = first;
+  while (last != index.end() && last->first == name) ++last;
+  return {first, last};
+}
+
 // Bytes of an asset text as a wxString: UTF-8, or Latin-1 when the bytes are
 // not valid UTF-8, so no text is lost to a failed conversion.
 wxString ToWxString(const std::string& text) {
@@ -149,15 +160,14 @@ bool AssetManager::SetAsset(Asset* asset) {
 }
 
 bool AssetManager::GetAsset(const char* name, Asset*& out) const {
-  const std::string lowerName = ToLower(Str(name));
-  return GetBestAsset(out, lowerName.c_str(), m_platform.c_str(), m_language.c_str(),
-                      m_subLanguage.c_str());
+  // GetBestAsset lower-cases the name.
+  return GetBestAsset(out, name, m_platform.c_str(), m_language.c_str(), m_subLanguage.c_str());
 }
 
 bool AssetManager::GetBestAsset(Asset*& out, const char* name, const char* platform,
                                 const char* language, const char* subLanguage) const {
   const Identities want(name, platform, language, subLanguage);
-  const auto range = m_assets.equal_range(want.name);
+  const auto range = VariantsOf(m_assets, want.name);
   for (int t = 0; t < Identities::kTries; ++t) {
     for (auto it = range.first; it != range.second; ++it) {
       if (want.Try(t, *it->second)) {
@@ -171,7 +181,7 @@ bool AssetManager::GetBestAsset(Asset*& out, const char* name, const char* platf
 
 bool AssetManager::GetAllAssets(const char* name, std::vector<Asset*>& out) const {
   const Identities want(name, m_platform.c_str(), m_language.c_str(), m_subLanguage.c_str());
-  const auto range = m_assets.equal_range(want.name);
+  const auto range = VariantsOf(m_assets, want.name);
   if (range.first == range.second) return false;
   for (auto it = range.first; it != range.second; ++it) {
     for (int t = 0; t < Identities::kTries; ++t) {
