@@ -1,0 +1,357 @@
+// Control groups: dispatch order, registration and ownership, bulk
+// operations, one-of-N selection, forwarding, dumps, and destruction in
+// every order.
+#include <gtest/gtest.h>
+#include <wx/wx.h>
+
+#include <cstdio>
+#include <memory>
+
+#include "ControlTestSupport.h"
+#include "vorn/VornButton.h"
+
+namespace {
+
+std::string Hex(const void* p) {
+  char buf[32];
+  std::snprintf(buf, sizeof buf, "%p", p);
+  return buf;
+}
+
+class ControlGroup : public ::testing::Test {
+ protected:
+  TestFrame frame;
+  EventLog log;
+};
+
+TEST_F(ControlGroup, UpdateVisitsMembersInTheFixedOrder) {
+  VornControlGroup group, sub;
+  RecordingControl c7(frame.Get(), 7, &group, &log, "id7");
+  RecordingControl c3(frame.Get(), 3, &group, &log, "id3");
+  RecordingControl idless(frame.Get(), 50, nullptr, &log, "idless");
+  RecordingVirtual virtualIdless(60, nullptr, &log, "virtual");
+  RecordingVirtual virtualById(61, &group, &log, "virtualById");  // never visited
+  RecordingControl inSub(frame.Get(), 1, &sub, &log, "sub");
+  RecordingReceiver receiver(&log, "receiver");
+  group.Register(&receiver);  // registered first, still visited last
+  group.Register(&sub);
+  group.Register(&virtualIdless);
+  group.Register(&idless);
+
+  CountingHint hint;
+  group.Update(3, &c3, &hint);
+  EXPECT_EQ(log, EventLog({"update id3", "update id7", "update idless", "update virtual",
+                           "update sub", "update receiver"}));
+  EXPECT_EQ(c3.lastSource, &c3);
+  EXPECT_EQ(c3.lastHint, &hint);
+  EXPECT_EQ(inSub.lastId, 3u);
+
+  group.DeRegister(&receiver);
+  group.DeRegister(&sub);
+  group.DeRegister(&idless);
+  group.DeRegister(&virtualIdless);
+}
+
+TEST_F(ControlGroup, MembersAppendedDuringUpdateAreVisited) {
+  VornControlGroup group;
+  RecordingControl first(frame.Get(), 1, nullptr, &log, "first");
+  RecordingControl late(frame.Get(), 2, nullptr, &log, "late");
+  RecordingControl byId(frame.Get(), 5, &group, &log, "byId");
+  RecordingControl lateById(frame.Get(), 9, nullptr, &log, "lateById");
+  byId.onUpdate = [&] {
+    if (!group.CurrentlyRegistered(&late)) lateById.Bind(&group);
+  };
+  first.onUpdate = [&] {
+    if (!group.CurrentlyRegistered(&late)) group.Register(&late);
+  };
+  group.Register(&first);
+  group.Update(0, nullptr, nullptr);
+  EXPECT_EQ(log, EventLog({"update byId", "update lateById", "update first", "update late"}));
+  group.DeRegister(&first);
+  group.DeRegister(&late);
+}
+
+TEST_F(ControlGroup, OwnedControlsAreDeletedOnlyByDeRegisterWithoutKeep) {
+  VornControlGroup group;
+  RecordingControl::s_destroyed = 0;
+  group.RegisterOwner(4, new RecordingControl(frame.Get(), 4, nullptr, nullptr), "owned");
+  EXPECT_TRUE(group.DeRegister(4u, false));
+  EXPECT_EQ(RecordingControl::s_destroyed, 1);
+  EXPECT_TRUE(group.IsEmpty());
+
+  RecordingControl notOwned(frame.Get(), 8, &group, nullptr);
+  EXPECT_TRUE(group.DeRegister(8u, false));  // not owned: never deleted
+  EXPECT_EQ(notOwned.GetGroup(), nullptr);
+
+  auto* kept = new RecordingControl(frame.Get(), 5, nullptr, nullptr);
+  group.RegisterOwner(5, kept);
+  EXPECT_TRUE(group.DeRegister(5u, true));
+  auto* cleared = new RecordingControl(frame.Get(), 7, nullptr, nullptr);
+  group.RegisterOwner(7, cleared);
+  group.Clear();
+  EXPECT_EQ(RecordingControl::s_destroyed, 1);
+  EXPECT_TRUE(group.IsEmpty());
+  EXPECT_FALSE(group.DeRegister(99u, false));  // unknown id: nothing
+  delete kept;
+  delete cleared;
+  EXPECT_EQ(RecordingControl::s_destroyed, 3);
+}
+
+TEST_F(ControlGroup, DeRegisterByPointerFindsTheEntry) {
+  VornControlGroup group;
+  auto* control = new RecordingControl(frame.Get(), 20, &group, nullptr);
+  RecordingVirtual windowless(20, &group, &log, "w");  // same id, other map
+  RecordingControl::s_destroyed = 0;
+  EXPECT_TRUE(group.DeRegister(static_cast<VirtualControl*>(&windowless), true));
+  EXPECT_EQ(windowless.GetGroup(), nullptr);
+  EXPECT_EQ(control->GetGroup(), &group);
+  group.DeRegister(20u, true);
+  group.RegisterOwner(20, control);
+  EXPECT_TRUE(group.DeRegister(static_cast<VornControl*>(control), false));
+  EXPECT_EQ(RecordingControl::s_destroyed, 1);
+  EXPECT_TRUE(group.IsEmpty());
+}
+
+TEST_F(ControlGroup, ProgrammingErrorsAssertZeroNamingTheOperation) {
+  VornControlGroup group, other;
+  RecordingControl control(frame.Get(), 1, &group, nullptr);
+  RecordingVirtual windowless(1, &group, &log, "w");
+  RecordingReceiver receiver(&log, "r");
+  using Fired = std::pair<std::string, std::string>;
+  EXPECT_EQ(FiredAssertionIn([&] { group.Register(1, &control); }), Fired("0", "Register"));
+  EXPECT_EQ(FiredAssertionIn([&] { group.RegisterOwner(1, &control, "x"); }),
+            Fired("0", "RegisterOwner"));
+  EXPECT_EQ(FiredAssertionIn([&] { group.Register(1u, &windowless); }), Fired("0", "Register"));
+  EXPECT_EQ(FiredAssertionIn([&] { group.DeRegister(&receiver); }), Fired("0", "DeRegister"));
+  EXPECT_EQ(FiredAssertionIn([&] { group.DeRegister(&control); }), Fired("0", "DeRegister"));
+  EXPECT_EQ(FiredAssertionIn([&] { group.DeRegister(&other); }), Fired("0", "DeRegister"));
+
+  other.Bind(&group);
+  EXPECT_EQ(FiredAssertionIn([&] { group.Register(&other); }), Fired("0", "Register"));
+  EXPECT_EQ(FiredAssertionIn([&] { other.Bind(&group); }),
+            Fired("m_pControlGroup == __null", "Bind"));
+  EXPECT_TRUE(group.DeRegister(&other));
+  EXPECT_FALSE(group.CurrentlyRegistered(&other));
+  EXPECT_EQ(other.GetGroup(), nullptr);
+  EXPECT_FALSE(group.DeRegister(static_cast<VornControl*>(nullptr)));  // null: nothing
+}
+
+TEST_F(ControlGroup, ReceiverRegistrationWritesDebugLines) {
+  VornControlGroup group;
+  RecordingReceiver receiver(&log, "r");
+  CaptureDprintf capture;
+  group.Register(&receiver);
+  group.DeRegister(&receiver);
+  const std::string address = Hex(&receiver);
+  EXPECT_EQ(capture.Lines(),
+            std::vector<std::string>(
+                {"VornControlGroup::Register(MessageReceiver* " + address + ")\n",
+                 "VornControlGroup::DeRegister(MessageReceiver* " + address + ")\n"}));
+}
+
+TEST_F(ControlGroup, DumpTraceOfEmptyAndFilledGroups) {
+  VornControlGroup group, sub;
+  {
+    CaptureDprintf capture;
+    group.DumpTrace();
+    EXPECT_EQ(capture.Lines(),
+              std::vector<std::string>({"Current control group address is " + Hex(&group) + "\n",
+                                        " Controls (0):\n", " Virtual Controls (0):\n",
+                                        " Groups (0):\n"}));
+  }
+  RecordingControl named(frame.Get(), 8, nullptr, nullptr);
+  group.RegisterOwner(8, &named, "okay");
+  RecordingControl idless(frame.Get(), 9, nullptr, nullptr);
+  group.Register(&idless);  // not listed
+  RecordingVirtual windowless(2, &group, &log, "w");
+  sub.Bind(&group);
+  CaptureDprintf capture;
+  group.DumpTrace();
+  EXPECT_EQ(
+      capture.Lines(),
+      std::vector<std::string>(
+          {"Current control group address is " + Hex(&group) + "\n", " Controls (1):\n",
+           "  ID = 8, mce: id = 8, own = 1, control = " + Hex(&named) + ", name = okay\n",
+           " Virtual Controls (1):\n",
+           "  ID = 2, mce: id = 2, own = 0, control = " + Hex(&windowless) + ", name = NONAME\n",
+           " Groups (1):\n", "  Address = " + Hex(&sub) + "\n"}));
+  group.DeRegister(8u, true);
+  group.DeRegister(&idless);
+}
+
+TEST_F(ControlGroup, ShowAllAndSetEnableAllReachEveryMemberAndSubGroup) {
+  VornControlGroup group, sub;
+  sub.Bind(&group);
+  RecordingControl byId(frame.Get(), 1, &group, nullptr);
+  RecordingControl idless(frame.Get(), 2, nullptr, nullptr);
+  group.Register(&idless);
+  RecordingVirtual windowless(3, &group, &log, "w");
+  RecordingControl inSub(frame.Get(), 4, &sub, nullptr);
+
+  group.ShowAll(nullptr, true, nullptr);
+  EXPECT_TRUE(windowless.IsVisible());
+  EXPECT_TRUE(byId.IsVisible());
+  group.ShowAll(nullptr, false, nullptr);
+  EXPECT_FALSE(byId.IsShown());
+  EXPECT_FALSE(idless.IsShown());
+  EXPECT_FALSE(windowless.IsVisible());
+  EXPECT_FALSE(inSub.IsShown());
+  group.SetEnableAll(nullptr, false, nullptr);
+  EXPECT_FALSE(byId.GetEnabled());
+  EXPECT_FALSE(idless.GetEnabled());
+  EXPECT_FALSE(windowless.GetEnabled());
+  EXPECT_FALSE(inSub.GetEnabled());
+  group.DeRegister(&idless);
+}
+
+TEST_F(ControlGroup, OnAndEnableByIdTouchOnlyButtons) {
+  VornControlGroup group;
+  VornButton button(nullptr, 0, 0, 10, 10, frame.Get(), 1, &group);
+  VornButton idlessButton(nullptr, 0, 0, 10, 10, frame.Get(), 2, nullptr);
+  group.Register(&idlessButton);
+  RecordingControl plain(frame.Get(), 3, &group, nullptr);
+  VirtualButton windowless;
+  windowless.Create(nullptr, false, 0, 0, nullptr, nullptr, 1, &group);
+
+  group.SetOnControl(1, true, nullptr);
+  EXPECT_TRUE(button.GetOn());
+  EXPECT_TRUE(idlessButton.GetOn());  // id-less controls match every id
+  EXPECT_TRUE(windowless.GetOn());
+  group.SetOnControl(3, false, nullptr);
+  EXPECT_TRUE(button.GetOn());
+  EXPECT_FALSE(idlessButton.GetOn());
+
+  group.SetEnableControl(3, false, nullptr);
+  EXPECT_TRUE(plain.GetEnabled());  // not a button
+  EXPECT_FALSE(idlessButton.GetEnabled());
+  group.SetEnableControl(1, false, nullptr);
+  EXPECT_FALSE(button.GetEnabled());
+  group.DeRegister(&idlessButton);
+}
+
+TEST_F(ControlGroup, OneOfNSelection) {
+  VornControlGroup1ofN group;
+  VornButton a(nullptr, 0, 0, 10, 10, frame.Get(), 1, &group);
+  VornButton b(nullptr, 0, 0, 10, 10, frame.Get(), 2, &group);
+  VornButton c(nullptr, 0, 0, 10, 10, frame.Get(), 3, &group);
+  for (VornButton* button : {&a, &b, &c}) button->SetOn(true);
+  group.SetOnAll(&b, false, nullptr);
+  EXPECT_FALSE(a.GetOn());
+  EXPECT_TRUE(b.GetOn());
+  EXPECT_FALSE(c.GetOn());
+  EXPECT_EQ(group.GetSelected(), 2u);
+
+  group.SetOnControl(42, true, nullptr);  // recorded even without a control
+  EXPECT_EQ(group.GetSelected(), 42u);
+  group.SetOnControl(3, false, nullptr);
+  EXPECT_EQ(group.GetSelected(), 42u);
+
+  VirtualButton v1, v2;
+  v1.Create(nullptr, false, 0, 0, nullptr, nullptr, 11, &group);
+  v2.Create(nullptr, false, 0, 0, nullptr, nullptr, 12, &group);
+  v1.SetOn(true);
+  group.SetOnAll(static_cast<VirtualControl*>(&v2), true, nullptr);
+  EXPECT_EQ(group.GetSelected(), 12u);
+  EXPECT_TRUE(v1.GetOn());
+  EXPECT_FALSE(v2.GetOn());  // the chosen one is not switched
+}
+
+class NotifiedGroup : public VornControlGroupValue {
+ public:
+  explicit NotifiedGroup(EventLog* log) : m_log(log) {}
+  void ControlSelected(unsigned int id, VornControl*) override { Note("selected", id); }
+  void ControlUnSelected(unsigned int id, VornControl*) override { Note("unselected", id); }
+  void ControlDrag(unsigned int id, VornControl*) override { Note("drag", id); }
+  void ControlShapeChanged(unsigned int id, VornControl*) override { Note("shape", id); }
+
+ private:
+  void Note(const char* what, unsigned int id) {
+    m_log->push_back(std::string(what) + " " + std::to_string(id));
+  }
+  EventLog* m_log;
+};
+
+TEST_F(ControlGroup, ChildToParentReaddressesToTheCompound) {
+  NotifiedGroup outer(&log);
+  RecordingControl compound(frame.Get(), 70, &outer, nullptr);
+  ChildToParentControlGroup inner(&compound);
+  RecordingControl child(&compound, 5, &inner, nullptr);
+  inner.ControlSelected(5, &child);
+  inner.ControlUnSelected(5, &child);
+  inner.ControlDrag(5, &child);
+  inner.ControlShapeChanged(5, &child);
+  EXPECT_EQ(log, EventLog({"selected 70", "unselected 70", "drag 70", "shape 70"}));
+
+  // Drag and shape need a value group above; selection does not.
+  VornControlGroup plainOuter;
+  compound.SetGroup(&plainOuter);
+  outer.DeRegister(70u, true);
+  log.clear();
+  ChildToParentControlGroup orphan;
+  orphan.ControlSelected(5, &child);  // no parent: nothing
+  inner.ControlDrag(5, &child);
+  EXPECT_TRUE(log.empty());
+}
+
+// Destruction in every order must leave no dangling pointer behind
+// (checked under AddressSanitizer).
+TEST_F(ControlGroup, ControlDestroyedBeforeItsGroup) {
+  auto group = std::make_unique<VornControlGroup>();
+  auto* control = new RecordingControl(frame.Get(), 1, group.get(), nullptr);
+  auto* windowless = new RecordingVirtual(2, group.get(), &log, "w");
+  delete control;
+  delete windowless;
+  EXPECT_TRUE(group->IsEmpty());
+  group->Update(0, nullptr, nullptr);
+}
+
+TEST_F(ControlGroup, GroupDestroyedBeforeItsControls) {
+  auto group = std::make_unique<VornControlGroup>();
+  auto* control = new RecordingControl(frame.Get(), 1, group.get(), nullptr);
+  auto* windowless = new RecordingVirtual(2, group.get(), &log, "w");
+  RecordingControl idless(frame.Get(), 3, nullptr, nullptr);
+  group->Register(&idless);
+  group.reset();
+  EXPECT_EQ(control->GetGroup(), nullptr);
+  EXPECT_EQ(windowless->GetGroup(), nullptr);
+  delete control;
+  delete windowless;
+}
+
+TEST_F(ControlGroup, SubGroupsInEitherOrder) {
+  auto parent = std::make_unique<VornControlGroup>();
+  auto child = std::make_unique<VornControlGroup>();
+  child->Bind(parent.get());
+  child.reset();  // leaves the parent's list
+  EXPECT_TRUE(parent->IsEmpty());
+  parent->Update(0, nullptr, nullptr);
+
+  child = std::make_unique<VornControlGroup>();
+  child->Bind(parent.get());
+  parent.reset();
+  EXPECT_EQ(child->GetGroup(), nullptr);
+}
+
+TEST_F(ControlGroup, ValueOneOfNGroupWithControlsOnBothSides) {
+  auto group = std::make_unique<VornValueControlGroup1ofN>();
+  VornControlGroup1ofN* oneOfN = group.get();
+  VornControlGroupValue* value = group.get();
+  auto* left = new RecordingControl(frame.Get(), 1, oneOfN, nullptr);
+  auto* right = new RecordingControl(frame.Get(), 1, value, nullptr);
+  auto* lone = new RecordingControl(frame.Get(), 2, oneOfN, nullptr);
+  // By id the value registry is served first.
+  EXPECT_TRUE(group->DeRegister(1u, true));
+  EXPECT_EQ(right->GetGroup(), nullptr);
+  EXPECT_EQ(left->GetGroup(), oneOfN);
+  EXPECT_TRUE(value->IsEmpty());
+  delete lone;  // only on the one-of-N side: removed there
+  delete left;
+  EXPECT_TRUE(oneOfN->IsEmpty());
+  auto* late = new RecordingControl(frame.Get(), 3, oneOfN, nullptr);
+  group.reset();
+  EXPECT_EQ(late->GetGroup(), nullptr);
+  delete late;
+  delete right;
+}
+
+}  // namespace
