@@ -286,6 +286,18 @@ void Generate(Writer& out) {
   out("listbox_chevron.png", Fill(140, 22, Chevron(128.5f, 11, 3.5f, 3.5f, 1, 0.9f)));
   out("listbox_chevron_down.png", Fill(140, 22, Chevron(128.5f, 12, 3.5f, 3.5f, 1, 0.9f)));
   out("listbox_seldot.png", Fill(8, 8, Circle(4, 4, 3)));
+
+  // Parameter tree: a 72 x 18 value field, a 120 x 18 list box and an
+  // 18 x 18 function button that opens a list.
+  SunkenWell(out, "treeedit", 72, 18, 3);
+  RaisedFace(out, "treelist", 120, 18, 3);
+  out("treelist_divider.png", Fill(120, 18, RoundRect(101, 4, 102, 14, 0)));
+  out("treelist_chevron.png", Fill(120, 18, Chevron(110.5f, 9, 3, 3, 1, 0.85f)));
+  out("treelist_chevron_down.png", Fill(120, 18, Chevron(110.5f, 10, 3, 3, 1, 0.85f)));
+  RaisedFace(out, "treefunc", 18, 18, 3);
+  const Field dots = Union(Circle(5, 9, 1.3f), Union(Circle(9, 9, 1.3f), Circle(13, 9, 1.3f)));
+  out("treefunc_glyph.png", Fill(18, 18, dots));
+  out("treefunc_glyph_down.png", Fill(18, 18, [&](float x, float y) { return dots(x, y - 1); }));
 }
 
 }  // namespace

@@ -363,21 +363,30 @@ class Renderer {
     }
   }
 
-  Sheet StateSheet(const std::string& name) {
-    VornBitmapACache cache;
-    m_ok = m_manager.LoadImages(name.c_str(), cache);
-    Sheet sheet(m_bg, m_ink, Scale(cache.GetWidth(), cache.GetHeight()));
+  // Two rows of the eight states, off above on; picture(state) gives an
+  // invalid image for a state without one.
+  template <class GetPicture>
+  static void AddStateRows(Sheet& sheet, GetPicture picture) {
     for (const auto& states : kSheetRows) {
       std::vector<Sheet::Cell> row;
       for (VORNIMAGETYPE state : states) {
-        const BitmapA* image = nullptr;
         Sheet::Cell cell;
-        if (cache.GetImage(state, image)) cell.picture = Flatten(*image, m_bg);
+        cell.picture = picture(state);
         cell.caption = VornImageStateToken(state);
         row.push_back(cell);
       }
       sheet.AddRow(row);
     }
+  }
+
+  Sheet StateSheet(const std::string& name) {
+    VornBitmapACache cache;
+    m_ok = m_manager.LoadImages(name.c_str(), cache);
+    Sheet sheet(m_bg, m_ink, Scale(cache.GetWidth(), cache.GetHeight()));
+    AddStateRows(sheet, [&](VORNIMAGETYPE state) {
+      const BitmapA* image = nullptr;
+      return cache.GetImage(state, image) ? Flatten(*image, m_bg) : wxImage();
+    });
     return sheet;
   }
 
@@ -414,21 +423,17 @@ class Renderer {
     info.bitmaps = &bitmaps;
     m_ok = m_manager.LoadListBox(name.c_str(), info);
     Sheet sheet(m_bg, m_ink, Scale(bitmaps.GetWidth(), bitmaps.GetHeight()));
-    for (const auto& states : kSheetRows) {
-      std::vector<Sheet::Cell> row;
-      for (VORNIMAGETYPE state : states) {
-        const wxBitmap* image = nullptr;
-        Sheet::Cell cell;
-        if (bitmaps.GetImage(state, image))
-          cell.picture =
-              WithSampleText(image->ConvertToImage(), info.textX, info.textY, info.textWidth,
-                             info.textHeight, info.textColour, wxNullFont, nullptr);
-        cell.caption = VornImageStateToken(state);
-        row.push_back(cell);
-      }
-      sheet.AddRow(row);
-    }
+    AddStateRows(sheet, [&](VORNIMAGETYPE state) {
+      const wxBitmap* image = nullptr;
+      return bitmaps.GetImage(state, image) ? image->ConvertToImage() : wxImage();
+    });
     std::vector<Sheet::Cell> parts;
+    const wxBitmap* on = nullptr;
+    if (bitmaps.GetImage(VIT_ON, on))
+      parts.push_back({WithSampleText(on->ConvertToImage(), info.textX, info.textY, info.textWidth,
+                                      info.textHeight, info.textColour, wxNullFont, nullptr),
+                       "on, with text",
+                       {RectNote(info.textX, info.textY, info.textWidth, info.textHeight)}});
     auto part = [&](const wxBitmap* b, const char* caption, std::vector<std::string> notes) {
       Sheet::Cell cell;
       if (b && b->IsOk()) {
@@ -439,8 +444,7 @@ class Renderer {
       cell.notes = std::move(notes);
       parts.push_back(cell);
     };
-    part(info.selDot, "selDot",
-         {RectNote(info.textX, info.textY, info.textWidth, info.textHeight)});
+    part(info.selDot, "selDot", {});
     part(info.scrollOff, "scrollOff", {"expand " + std::to_string(info.expand)});
     part(info.scrollUp, "scrollUp", {ColourNote("1", info.expandColour1)});
     part(info.scrollDown, "scrollDown",
