@@ -1,0 +1,216 @@
+// Button drawing: the state image (or its fallback) copied from the cache or
+// its sheet, the labels of the text buttons and the ring button's ring.
+#include <gtest/gtest.h>
+
+#include "ButtonTestSupport.h"
+
+using namespace buttontest;
+
+namespace {
+
+struct Flags {
+  bool on, enabled, over, down;
+};
+
+// Puts a button into the given state through real events.
+void Apply(VornControl& control, const Flags& f) {
+  if (f.over) Mouse(&control, wxEVT_ENTER_WINDOW);
+  if (f.down) Mouse(&control, wxEVT_LEFT_DOWN);
+  if (!f.enabled) control.SetEnabled(false);
+}
+
+// True when every pixel of the bitmap has colour c.
+bool Uniform(const wxBitmap& bmp, const wxColour& c) {
+  const wxImage image = bmp.ConvertToImage();
+  for (int y = 0; y < image.GetHeight(); ++y)
+    for (int x = 0; x < image.GetWidth(); ++x)
+      if (wxColour(image.GetRed(x, y), image.GetGreen(x, y), image.GetBlue(x, y)) != c)
+        return false;
+  return true;
+}
+
+// Number of pixels within tolerance of c.
+int CountNear(const wxBitmap& bmp, const wxColour& c, int tolerance) {
+  const wxImage image = bmp.ConvertToImage();
+  int n = 0;
+  for (int y = 0; y < image.GetHeight(); ++y)
+    for (int x = 0; x < image.GetWidth(); ++x)
+      if (std::abs(image.GetRed(x, y) - c.Red()) <= tolerance &&
+          std::abs(image.GetGreen(x, y) - c.Green()) <= tolerance &&
+          std::abs(image.GetBlue(x, y) - c.Blue()) <= tolerance)
+        ++n;
+  return n;
+}
+
+struct StateCase {
+  Flags flags;
+  VORNIMAGETYPE full;     // drawn with every state image
+  VORNIMAGETYPE partial;  // drawn with only the plain off and on images
+};
+
+const StateCase kStates[] = {
+    {{false, true, false, false}, VIT_OFF, VIT_OFF},
+    {{false, true, true, false}, VIT_OFF_MOUSE_OVER, VIT_OFF},
+    {{false, true, true, true}, VIT_OFF_DOWN, VIT_OFF},
+    {{false, true, false, true}, VIT_OFF_DOWN, VIT_OFF},
+    {{true, true, false, false}, VIT_ON, VIT_ON},
+    {{true, true, true, false}, VIT_ON_MOUSE_OVER, VIT_ON},
+    {{true, true, true, true}, VIT_ON_DOWN, VIT_ON},
+    {{false, false, true, false}, VIT_DISABLED_OFF, VIT_OFF},
+    {{true, false, false, false}, VIT_DISABLED_ON, VIT_ON},
+};
+
+class ButtonDrawTest : public ::testing::Test {
+ protected:
+  TestFrame frame;
+};
+
+TEST_F(ButtonDrawTest, DrawsTheStateImageOrItsFallback) {
+  auto full = MakeCache(AllStates());
+  auto partial = MakeCache({VIT_OFF, VIT_ON});
+  for (const StateCase& c : kStates) {
+    for (bool usePartial : {false, true}) {
+      // The base button keeps the on flag as set: no click reaction flips it.
+      VornButton button(usePartial ? partial.get() : full.get(), 0, 0, frame.Get(), 1, nullptr);
+      button.SetOn(c.flags.on);
+      Apply(button, c.flags);
+      const VORNIMAGETYPE expected = usePartial ? c.partial : c.full;
+      EXPECT_EQ(c.full, (button.RecalcState(), button.GetState()));
+      EXPECT_TRUE(Uniform(Render(&button, 24, 16), StateColour(expected)))
+          << "state " << c.full << (usePartial ? " partial" : " full");
+    }
+  }
+}
+
+TEST_F(ButtonDrawTest, CopiesTheRectangleFromASharedSheet) {
+  auto full = MakeCache(AllStates());
+  WallpaperBitmapHolder holder;
+  WallpaperImageInfo<wxBitmap> pad;
+  // Something else first, so the button's images do not start at (0, 0).
+  holder.AddImage("pad", SolidBitmap(37, 11, *wxRED), pad);
+  ASSERT_TRUE(holder.AddImageCache("button", *full));
+  VornwxBitmapCache sheetCache;
+  ASSERT_TRUE(holder.GetImageCache("button", sheetCache));
+
+  VornButtonToggle toggle(&sheetCache, 0, 0, frame.Get(), 1, nullptr);
+  EXPECT_EQ(24, toggle.GetWidth());
+  WallpaperImageInfo<wxBitmap> info;
+  toggle.RecalcState();
+  ASSERT_TRUE(toggle.GetImageInfo(info));
+  EXPECT_NE(0, info.x + info.y);
+  EXPECT_TRUE(Uniform(Render(&toggle, 24, 16), StateColour(VIT_OFF)));
+  Click(&toggle);
+  EXPECT_TRUE(Uniform(Render(&toggle, 24, 16), StateColour(VIT_ON_MOUSE_OVER)));
+  Mouse(&toggle, wxEVT_LEFT_DOWN);
+  EXPECT_TRUE(Uniform(Render(&toggle, 24, 16), StateColour(VIT_ON_DOWN)));
+}
+
+TEST_F(ButtonDrawTest, DrawsNothingWithoutAnImage) {
+  auto onOnly = MakeCache({VIT_ON});
+  const wxColour fill(1, 2, 3);
+  VornButton noImage(onOnly.get(), 0, 0, frame.Get(), 1, nullptr);
+  VornButton noCache(nullptr, 0, 0, 24, 16, frame.Get(), 2, nullptr);
+  WallpaperImageInfo<wxBitmap> info;
+  EXPECT_TRUE(Uniform(Render(&noImage, 24, 16, fill), fill));
+  EXPECT_FALSE(noImage.GetImageInfo(info));
+  EXPECT_TRUE(Uniform(Render(&noCache, 24, 16, fill), fill));
+  EXPECT_FALSE(noCache.GetImageInfo(info));
+  // Switching on brings the only image in; a new cache replaces it.
+  noImage.SetOn(true);
+  EXPECT_TRUE(Uniform(Render(&noImage, 24, 16, fill), StateColour(VIT_ON)));
+  auto offOnly = MakeCache({VIT_OFF});
+  noCache.SetImageCache(offOnly.get());
+  EXPECT_TRUE(Uniform(Render(&noCache, 24, 16, fill), StateColour(VIT_OFF)));
+}
+
+TEST_F(ButtonDrawTest, TextPushButtonDrawsItsFaceAndLabel) {
+  const wxColour text(250, 250, 250), hover(250, 40, 40), back(10, 20, 30);
+  VornTextPushButton plain("Apply", -1, -1, *wxNORMAL_FONT, text, back, hover, 0, 0, 90, 24,
+                           frame.Get(), 1, nullptr);
+  wxBitmap shot = Render(&plain, 90, 24);
+  EXPECT_EQ(back, PixelAt(shot, 0, 0));
+  EXPECT_EQ(back, PixelAt(shot, 89, 23));
+  EXPECT_GT(CountNear(shot, text, 10), 8);
+  EXPECT_EQ(0, CountNear(shot, hover, 10));
+  Mouse(&plain, wxEVT_ENTER_WINDOW);
+  shot = Render(&plain, 90, 24);
+  EXPECT_GT(CountNear(shot, hover, 10), 8);
+  // Centred: the label's ink is balanced around the middle.
+  const wxImage image = shot.ConvertToImage();
+  int left = 90, right = -1;
+  for (int y = 0; y < 24; ++y)
+    for (int x = 0; x < 90; ++x)
+      if (wxColour(image.GetRed(x, y), image.GetGreen(x, y), image.GetBlue(x, y)) != back) {
+        left = std::min(left, x);
+        right = std::max(right, x);
+      }
+  EXPECT_NEAR(45, (left + right) / 2.0, 3);
+
+  auto cache = MakeCache({VIT_OFF, VIT_OFF_MOUSE_OVER, VIT_OFF_DOWN, VIT_ON}, 90, 24);
+  VornTextPushButton skinned("Apply", -1, -1, *wxNORMAL_FONT, text, back, hover, cache.get(), 0, 30,
+                             frame.Get(), 2, nullptr);
+  EXPECT_EQ(90, skinned.GetWidth());
+  struct Case {
+    Flags flags;
+    VORNIMAGETYPE state;
+  };
+  for (const Case& c : {Case{{false, true, false, false}, VIT_OFF},
+                        Case{{false, true, true, false}, VIT_OFF_MOUSE_OVER},
+                        Case{{false, true, true, true}, VIT_OFF_DOWN},
+                        Case{{false, false, false, false}, VIT_OFF}}) {
+    VornTextPushButton b("", -1, -1, *wxNORMAL_FONT, text, back, hover, cache.get(), 0, 60,
+                         frame.Get(), 3, nullptr);
+    Apply(b, c.flags);
+    EXPECT_TRUE(Uniform(Render(&b, 90, 24), StateColour(c.state))) << c.state;
+  }
+}
+
+TEST_F(ButtonDrawTest, TextRadioButtonDrawsItsImageThenBothLabels) {
+  auto cache = MakeCache(AllStates(), 100, 24);
+  const wxColour off(200, 200, 200), on(40, 250, 250), over(250, 250, 40);
+  VornTextRadioButton radio(cache.get(), "Left", "Right", *wxNORMAL_FONT, off, on, over, 0, 0,
+                            frame.Get(), 1, nullptr);
+  wxBitmap shot = Render(&radio, 100, 24);
+  EXPECT_EQ(StateColour(VIT_OFF), PixelAt(shot, 0, 0));
+  EXPECT_GT(CountNear(shot, off, 12), 8);
+  // One label in each half.
+  const wxImage image = shot.ConvertToImage();
+  int leftInk = 0, rightInk = 0;
+  for (int y = 0; y < 24; ++y)
+    for (int x = 0; x < 100; ++x)
+      if (wxColour(image.GetRed(x, y), image.GetGreen(x, y), image.GetBlue(x, y)) !=
+          StateColour(VIT_OFF))
+        ++(x < 50 ? leftInk : rightInk);
+  EXPECT_GT(leftInk, 8);
+  EXPECT_GT(rightInk, 8);
+
+  radio.SetOn(true);
+  shot = Render(&radio, 100, 24);
+  EXPECT_EQ(StateColour(VIT_ON), PixelAt(shot, 0, 0));
+  EXPECT_GT(CountNear(shot, on, 12), 8);
+  EXPECT_EQ(0, CountNear(shot, off, 12));
+}
+
+TEST_F(ButtonDrawTest, RingButtonDrawsARingInItsColour) {
+  VornValueControlGroup1ofN group;
+  const wxColour red(230, 30, 30);
+  VornRingButton ring(red, 3, 8, 8, 0, 0, 56, 40, frame.Get(), 1, &group);
+  ring.SetBgColour(wxColour(30, 30, 30));
+  wxBitmap off = Render(&ring, 56, 40);
+  EXPECT_EQ(wxColour(30, 30, 30), PixelAt(off, 0, 0));
+  EXPECT_EQ(wxColour(30, 30, 30), PixelAt(off, 28, 20));  // the centre stays empty
+  const int offRing = CountNear(off, red, 8);
+  EXPECT_GT(offRing, 40);
+
+  ring.SetOn(true);
+  wxBitmap on = Render(&ring, 56, 40);
+  EXPECT_GT(CountNear(on, red, 8), 0);
+  EXPECT_GT(CountNear(on, wxColour(230, 230, 230), 40), 20);  // halo and handles
+  EXPECT_LT(CountNear(off, wxColour(230, 230, 230), 40), 5);
+
+  ring.SetEnabled(false);
+  wxBitmap disabled = Render(&ring, 56, 40);
+  EXPECT_EQ(0, CountNear(disabled, red, 8));  // faded towards the background
+}
+
+}  // namespace
