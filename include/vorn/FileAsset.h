@@ -12,8 +12,9 @@
 //   root/<platform>/<language>/<sub-language>/
 // "Generic" and the platform are matched on disk as spelled (the platform as
 // the host gave it), the language and sub-language in lower case; every
-// identity field is stored lower-cased. Only regular files are indexed and
-// no other sub-directory is read. A file's key is its lower-cased base name,
+// identity field is stored lower-cased. Only regular files are indexed,
+// hidden ones (name starting with a dot) left out, and no other
+// sub-directory is read. A file's key is its lower-cased base name,
 // a dot and its lower-cased extension ("readme." for a file without one).
 #include <memory>
 #include <string>
