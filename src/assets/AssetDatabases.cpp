@@ -50,6 +50,30 @@ unsigned char Channel8(double value) {
 
 const ColorA kFunnyRed(1.0, 100 / 255.0, 100 / 255.0, 1.0);
 
+// The text of a database asset; a missing one is reported under title.
+bool LoadDatabaseText(AssetManager& manager, const char* name, const char* title, const char* kind,
+                      std::string& text) {
+  if (manager.LoadText(name, text)) return true;
+  WarningMessage(title, std::string("Cannot load ") + kind + " [" + (name ? name : "") + "]");
+  return false;
+}
+
+// Reports the faulty lines of one file under its title and remembers that
+// there was one.
+class LineErrors {
+ public:
+  explicit LineErrors(const char* title) : m_title(title) {}
+  void operator()(const std::string& message) {
+    WarningMessage(m_title, message);
+    m_ok = false;
+  }
+  bool Ok() const { return m_ok; }
+
+ private:
+  const char* m_title;
+  bool m_ok = true;
+};
+
 // Drops the character before the line end; an empty line stays empty.
 std::string WithoutLastChar(std::string line) {
   if (!line.empty()) line.pop_back();
@@ -61,11 +85,7 @@ std::string WithoutLastChar(std::string line) {
 
 bool AssetManager::LoadMessages(const char* name) {
   std::string text;
-  if (!LoadText(name, text)) {
-    WarningMessage(kMessageTitle,
-                   std::string("Cannot load message file [") + (name ? name : "") + "]");
-    return false;
-  }
+  if (!LoadDatabaseText(*this, name, kMessageTitle, "message file", text)) return false;
   std::istringstream in(text);
   int lineNumber = 0;
   std::string line;
@@ -121,16 +141,8 @@ constexpr int kMaxPointSize = 1000;
 bool AssetManager::LoadFontData(const char* name) {
   dprintf("%s\n", name ? name : "");
   std::string text;
-  if (!LoadText(name, text)) {
-    WarningMessage(kFontTitle,
-                   std::string("Cannot load font database [") + (name ? name : "") + "]");
-    return false;
-  }
-  bool ok = true;
-  const auto error = [&ok](const std::string& message) {
-    WarningMessage(kFontTitle, message);
-    ok = false;
-  };
+  if (!LoadDatabaseText(*this, name, kFontTitle, "font database", text)) return false;
+  LineErrors error(kFontTitle);
   ForEachLine(text, [&](const std::string& line, int number) {
     std::istringstream words(line);
     std::string fontName, familyWord, styleWord, weightWord;
@@ -157,7 +169,7 @@ bool AssetManager::LoadFontData(const char* name) {
       return error("Cannot create font [" + fontName + "]" + OnLine(number));
     SetFont(fontName, font);
   });
-  return ok;
+  return error.Ok();
 }
 
 bool AssetManager::SetFont(const std::string& name, const wxFont& font) {
@@ -190,16 +202,8 @@ void AssetManager::ClearFontDatabase() {
 
 bool AssetManager::LoadColourData(const char* name) {
   std::string text;
-  if (!LoadText(name, text)) {
-    WarningMessage(kColourTitle,
-                   std::string("Cannot load colour database [") + (name ? name : "") + "]");
-    return false;
-  }
-  bool ok = true;
-  const auto error = [&ok](const std::string& message) {
-    WarningMessage(kColourTitle, message);
-    ok = false;
-  };
+  if (!LoadDatabaseText(*this, name, kColourTitle, "colour database", text)) return false;
+  LineErrors error(kColourTitle);
   ForEachLine(text, [&](const std::string& line, int number) {
     if (line.empty()) return;
     const std::string n = std::to_string(number);
@@ -229,7 +233,7 @@ bool AssetManager::LoadColourData(const char* name) {
     const ColorA c = it->second;
     SetColour(colourName, Scale255(c.r), Scale255(c.g), Scale255(c.b), Scale255(c.a));
   });
-  return ok;
+  return error.Ok();
 }
 
 bool AssetManager::SetColour(const std::string& name, int r, int g, int b, int a) {

@@ -3,6 +3,7 @@
 #include <wx/settings.h>
 #include <wx/wx.h>
 
+#include "../unit/AssetTestUtil.h"
 #include "TestSupport.h"
 #include "vorn/AssetManager.h"
 #include "vorn/FileAsset.h"
@@ -21,10 +22,7 @@ TEST(AssetFonts, DatabaseLinesBecomeFonts) {
             "Odd 11 fancy\n"
             "Last 8 default normal normal");
   AssetManager m;
-  auto* loader = new FileAssetLoader;
-  loader->Init(dir.Path());
-  m.SetAssetLoader(loader);
-  ASSERT_TRUE(m.LoadAssets());
+  ASSERT_TRUE(LoadTree(m, dir.Path()));
   CaptureWarnings warnings;
   EXPECT_FALSE(m.LoadFontData("fonts.txt"));  // two faulty lines
   ASSERT_EQ(warnings.Warnings().size(), 2u);

@@ -191,10 +191,7 @@ TEST(FileAssetLoader, KeysAreLowerCasedAndCaseCollisionsKeepOneAsset) {
   dir.Write("README", "no extension");
   dir.Write("Archive.Tar.GZ", "two dots");
   AssetManager manager;
-  auto* loader = new FileAssetLoader;
-  loader->Init(dir.Path());
-  manager.SetAssetLoader(loader);
-  ASSERT_TRUE(manager.LoadAssets());
+  ASSERT_TRUE(LoadTree(manager, dir.Path()));
   EXPECT_EQ(manager.GetNumAssets(), 3u);
   std::vector<Asset*> icons;
   ASSERT_TRUE(manager.GetAllAssets("ICON.png", icons));
@@ -216,10 +213,7 @@ TEST(FileAssetLoader, EmptyPlatformAndLanguageIndexEachFileOnce) {
   dir.Write("b.txt", "b");
   dir.Write("Generic/c.txt", "c");
   AssetManager manager;
-  auto* loader = new FileAssetLoader;
-  loader->Init(dir.Path());
-  manager.SetAssetLoader(loader);
-  ASSERT_TRUE(manager.LoadAssets());
+  ASSERT_TRUE(LoadTree(manager, dir.Path()));
   EXPECT_EQ(manager.GetNumAssets(), 3u);
   const auto index = IndexOf(manager, {"a.txt", "b.txt", "c.txt"});
   EXPECT_EQ(index.at("a.txt"), std::multiset<std::string>{"//"});
@@ -229,10 +223,7 @@ TEST(FileAssetLoader, EmptyPlatformAndLanguageIndexEachFileOnce) {
 TEST(FileAssetLoader, MissingRootIsNotAnError) {
   TempDir dir;
   AssetManager manager;
-  auto* loader = new FileAssetLoader;
-  loader->Init(dir.Path() + "nothing/");
-  manager.SetAssetLoader(loader);
-  EXPECT_TRUE(manager.LoadAssets());
+  EXPECT_TRUE(LoadTree(manager, dir.Path() + "nothing/"));
   EXPECT_EQ(manager.GetNumAssets(), 0u);
 }
 

@@ -232,10 +232,7 @@ TEST(AssetManagerText, LoadTextClosesTheAssetAndLeavesOutAloneOnFailure) {
   dir.Write("t.txt", "line1\r\nline2\rcaf\xc3\xa9");
   dir.Write("latin.txt", "caf\xe9");
   AssetManager m;
-  auto* loader = new FileAssetLoader;
-  loader->Init(dir.Path());
-  m.SetAssetLoader(loader);
-  ASSERT_TRUE(m.LoadAssets());
+  ASSERT_TRUE(LoadTree(m, dir.Path()));
   std::string text = "untouched";
   EXPECT_FALSE(m.LoadText("missing.txt", text));
   EXPECT_EQ(text, "untouched");
@@ -282,10 +279,7 @@ TEST(AssetManagerText, MenuTextGrammar) {
     TempDir dir;
     dir.Write("menu.txt", c.text);
     AssetManager m;
-    auto* loader = new FileAssetLoader;
-    loader->Init(dir.Path());
-    m.SetAssetLoader(loader);
-    ASSERT_TRUE(m.LoadAssets());
+    ASSERT_TRUE(LoadTree(m, dir.Path()));
     std::vector<MENUITEM> items(1);  // appended to, not cleared
     items[0].id = 42;
     ASSERT_TRUE(m.LoadMenuText("menu.txt", items)) << c.text;
@@ -303,10 +297,7 @@ TEST(AssetManagerText, MenuLabelIsCutAt98Characters) {
   TempDir dir;
   dir.Write("menu.txt", "1 " + std::string(150, 'x') + "\n");
   AssetManager m;
-  auto* loader = new FileAssetLoader;
-  loader->Init(dir.Path());
-  m.SetAssetLoader(loader);
-  ASSERT_TRUE(m.LoadAssets());
+  ASSERT_TRUE(LoadTree(m, dir.Path()));
   std::vector<MENUITEM> items;
   ASSERT_TRUE(m.LoadMenuText("menu.txt", items));
   ASSERT_EQ(items.size(), 1u);
