@@ -1,7 +1,6 @@
 #pragma once
 // Control groups: the registry and dispatcher every control reports to, and
 // the base of every hint.
-#include <map>
 #include <vector>
 
 #include "vornhost/Types.h"
@@ -100,12 +99,14 @@ class VornControlGroup {
   bool DeRegisterById(unsigned int id, bool keep);
   bool InsertControl(unsigned int id, VornControl* control, VornString name, bool own);
   bool InsertVirtual(unsigned int id, VirtualControl* control, bool own);
-  bool EraseControlEntry(std::map<unsigned int, VornControlEntry>::iterator it, bool keep);
-  bool EraseVirtualEntry(std::map<unsigned int, VirtualControlEntry>::iterator it, bool keep);
+  bool EraseControlEntry(std::vector<VornControlEntry>::iterator it, bool keep);
+  bool EraseVirtualEntry(std::vector<VirtualControlEntry>::iterator it, bool keep);
 
   VornControlGroup* m_pControlGroup = nullptr;  // parent; not owned
-  std::map<unsigned int, VornControlEntry> m_controlsById;
-  std::map<unsigned int, VirtualControlEntry> m_virtualControlsById;
+  // The two by-id maps: entries kept sorted by ascending id (flat, so that a
+  // dispatch walks contiguous memory).
+  std::vector<VornControlEntry> m_controlsById;
+  std::vector<VirtualControlEntry> m_virtualControlsById;
   std::vector<VornControl*> m_controls;
   std::vector<VirtualControl*> m_virtualControls;
   std::vector<VornControlGroup*> m_groups;    // not owned

@@ -14,19 +14,44 @@
 
 namespace {
 
-// Walks a by-id map in ascending key order while f may register or
-// deregister members: after any change the walk resumes after the key just
-// visited instead of trusting the iterator.
-template <class Map, class F>
-void WalkById(Map& map, const unsigned int& generation, F f) {
-  for (auto it = map.begin(); it != map.end();) {
-    const unsigned int key = it->first;
+template <class Entry>
+typename std::vector<Entry>::iterator LowerBound(std::vector<Entry>& map, unsigned int id) {
+  return std::lower_bound(map.begin(), map.end(), id,
+                          [](const Entry& e, unsigned int key) { return e.id < key; });
+}
+
+template <class Entry>
+typename std::vector<Entry>::iterator FindId(std::vector<Entry>& map, unsigned int id) {
+  auto it = LowerBound(map, id);
+  return it != map.end() && it->id == id ? it : map.end();
+}
+
+// Inserts in id order; false when the id is taken.
+template <class Entry>
+bool InsertSorted(std::vector<Entry>& map, Entry entry) {
+  auto it = LowerBound(map, entry.id);
+  if (it != map.end() && it->id == entry.id) return false;
+  map.insert(it, std::move(entry));
+  return true;
+}
+
+// Walks a by-id map in ascending id order while f may register or
+// deregister members: after any change the walk resumes after the id just
+// visited instead of trusting the position. f must read what it needs from
+// the entry before calling out.
+template <class Entry, class F>
+void WalkById(std::vector<Entry>& map, const unsigned int& generation, F f) {
+  for (std::size_t i = 0; i < map.size();) {
+    const unsigned int id = map[i].id;
     const unsigned int before = generation;
-    f(it->second);
+    f(map[i]);
     if (generation != before)
-      it = map.upper_bound(key);
+      i = static_cast<std::size_t>(
+          std::upper_bound(map.begin(), map.end(), id,
+                           [](unsigned int key, const Entry& e) { return key < e.id; }) -
+          map.begin());
     else
-      ++it;
+      ++i;
   }
 }
 
@@ -60,10 +85,10 @@ std::string Address(const void* p) {
 }
 
 template <class Entry>
-void DumpEntries(const char* heading, const std::map<unsigned int, Entry>& map) {
+void DumpEntries(const char* heading, const std::vector<Entry>& map) {
   dprintf(heading, static_cast<int>(map.size()));
-  for (const auto& [key, entry] : map) {
-    const std::string line = "  ID = " + std::to_string(key) +
+  for (const Entry& entry : map) {
+    const std::string line = "  ID = " + std::to_string(entry.id) +
                              ", mce: id = " + std::to_string(entry.id) +
                              ", own = " + (entry.own ? "1" : "0") +
                              ", control = " + Address(entry.control) + ", name = " + entry.name;
@@ -94,9 +119,9 @@ bool VornControlGroup::ShowAll(void* context, bool show, VornControlHint* hint) 
 }
 
 bool VornControlGroup::SetOnControl(unsigned int id, bool on, VornControlHint*) {
-  auto it = m_controlsById.find(id);
+  auto it = FindId(m_controlsById, id);
   if (it != m_controlsById.end()) {
-    if (auto* button = dynamic_cast<VornButton*>(it->second.control)) {
+    if (auto* button = dynamic_cast<VornButton*>(it->control)) {
       button->SetOn(on);
       button->Refresh(false);
     }
@@ -108,9 +133,9 @@ bool VornControlGroup::SetOnControl(unsigned int id, bool on, VornControlHint*) 
       button->Refresh(false);
     }
   }
-  auto vit = m_virtualControlsById.find(id);
+  auto vit = FindId(m_virtualControlsById, id);
   if (vit != m_virtualControlsById.end()) {
-    if (auto* button = dynamic_cast<VirtualButton*>(vit->second.control)) {
+    if (auto* button = dynamic_cast<VirtualButton*>(vit->control)) {
       button->SetOn(on);
       button->Refresh(false);
     }
@@ -147,8 +172,8 @@ bool VornControlGroup::SetEnableControl(unsigned int id, bool enable, VornContro
       button->Refresh(false);
     }
   };
-  auto it = m_controlsById.find(id);
-  if (it != m_controlsById.end()) enableButton(it->second.control);
+  auto it = FindId(m_controlsById, id);
+  if (it != m_controlsById.end()) enableButton(it->control);
   for (std::size_t i = 0; i < m_controls.size(); ++i) enableButton(m_controls[i]);
   return true;
 }
@@ -176,14 +201,14 @@ void VornControlGroup::ControlDoubleClick(unsigned int, VirtualControl*) {}
 // assert so that the report names the operation.
 bool VornControlGroup::InsertControl(unsigned int id, VornControl* control, VornString name,
                                      bool own) {
-  if (!m_controlsById.emplace(id, VornControlEntry{id, own, control, std::move(name)}).second)
+  if (!InsertSorted(m_controlsById, VornControlEntry{id, own, control, std::move(name)}))
     return false;
   ++m_generation;
   return true;
 }
 
 bool VornControlGroup::InsertVirtual(unsigned int id, VirtualControl* control, bool own) {
-  if (!m_virtualControlsById.emplace(id, VirtualControlEntry{id, own, control, "NONAME"}).second)
+  if (!InsertSorted(m_virtualControlsById, VirtualControlEntry{id, own, control, "NONAME"}))
     return false;
   ++m_generation;
   return true;
@@ -225,9 +250,8 @@ bool VornControlGroup::RegisterOwner(unsigned int id, VirtualControl* control) {
   return inserted;
 }
 
-bool VornControlGroup::EraseControlEntry(std::map<unsigned int, VornControlEntry>::iterator it,
-                                         bool keep) {
-  const VornControlEntry entry = it->second;
+bool VornControlGroup::EraseControlEntry(std::vector<VornControlEntry>::iterator it, bool keep) {
+  const VornControlEntry entry = *it;
   m_controlsById.erase(it);
   ++m_generation;
   if (entry.control && entry.control->GetGroup() == this) entry.control->SetGroup(nullptr);
@@ -237,9 +261,8 @@ bool VornControlGroup::EraseControlEntry(std::map<unsigned int, VornControlEntry
   return true;
 }
 
-bool VornControlGroup::EraseVirtualEntry(std::map<unsigned int, VirtualControlEntry>::iterator it,
-                                         bool keep) {
-  const VirtualControlEntry entry = it->second;
+bool VornControlGroup::EraseVirtualEntry(std::vector<VirtualControlEntry>::iterator it, bool keep) {
+  const VirtualControlEntry entry = *it;
   m_virtualControlsById.erase(it);
   ++m_generation;
   if (entry.control && entry.control->GetGroup() == this) entry.control->SetGroup(nullptr);
@@ -248,22 +271,22 @@ bool VornControlGroup::EraseVirtualEntry(std::map<unsigned int, VirtualControlEn
 }
 
 bool VornControlGroup::DeRegisterById(unsigned int id, bool keep) {
-  auto it = m_controlsById.find(id);
+  auto it = FindId(m_controlsById, id);
   if (it != m_controlsById.end()) return EraseControlEntry(it, keep);
-  auto vit = m_virtualControlsById.find(id);
+  auto vit = FindId(m_virtualControlsById, id);
   if (vit != m_virtualControlsById.end()) return EraseVirtualEntry(vit, keep);
   return false;
 }
 
 bool VornControlGroup::DeRegister(VornControl* control, bool keep) {
   auto it = std::find_if(m_controlsById.begin(), m_controlsById.end(),
-                         [control](const auto& kv) { return kv.second.control == control; });
+                         [control](const auto& e) { return e.control == control; });
   return it != m_controlsById.end() && EraseControlEntry(it, keep);
 }
 
 bool VornControlGroup::DeRegister(VirtualControl* control, bool keep) {
   auto it = std::find_if(m_virtualControlsById.begin(), m_virtualControlsById.end(),
-                         [control](const auto& kv) { return kv.second.control == control; });
+                         [control](const auto& e) { return e.control == control; });
   return it != m_virtualControlsById.end() && EraseVirtualEntry(it, keep);
 }
 

@@ -71,6 +71,19 @@ TEST_F(ControlGroup, MembersAppendedDuringUpdateAreVisited) {
   group.DeRegister(&late);
 }
 
+TEST_F(ControlGroup, MembersLeavingDuringUpdateAreSkippedSafely) {
+  VornControlGroup group;
+  RecordingControl first(frame.Get(), 1, &group, &log, "1");
+  auto* second = new RecordingControl(frame.Get(), 2, &group, &log, "2");
+  RecordingControl third(frame.Get(), 3, &group, &log, "3");
+  first.onUpdate = [&] {
+    delete second;
+    second = nullptr;
+  };
+  group.Update(0, nullptr, nullptr);
+  EXPECT_EQ(log, EventLog({"update 1", "update 3"}));
+}
+
 TEST_F(ControlGroup, OwnedControlsAreDeletedOnlyByDeRegisterWithoutKeep) {
   VornControlGroup group;
   RecordingControl::s_destroyed = 0;

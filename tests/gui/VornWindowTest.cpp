@@ -122,6 +122,11 @@ TEST(VornWindow, KeyPressReachesTheHostPanelAsVornKeyEvent) {
   std::vector<VornWindowKeyEvent> seen;
   host->Bind(VORNEVT_KEY_DOWN, [&](VornWindowKeyEvent& e) { seen.push_back(e); });
   host->Bind(VORNEVT_KEY_UP, [&](VornWindowKeyEvent& e) { seen.push_back(e); });
+  int seenByControl = 0;  // wxEvtHandler::Bind stays usable beside Bind(group)
+  control->Bind(VORNEVT_KEY_UP, [&](VornWindowKeyEvent& e) {
+    ++seenByControl;
+    e.Skip();
+  });
 
   wxKeyEvent down(wxEVT_KEY_DOWN);
   down.m_keyCode = WXK_F5;
@@ -149,6 +154,7 @@ TEST(VornWindow, KeyPressReachesTheHostPanelAsVornKeyEvent) {
   EXPECT_EQ(seen[1].GetEventType(), 22001);
   EXPECT_EQ(seen[1].GetKeyCode(), 'Q');
   EXPECT_TRUE(seen[1].AltDown());
+  EXPECT_EQ(seenByControl, 1);
 }
 
 TEST(VornWindow, StaticTableEntriesUseTheFixedNumbers) {
