@@ -170,6 +170,8 @@ class VirtualControl : public VirtualWindow {
  private:
   void StoreGroup(VornControlGroup* group);
   void TakeMeta(const wxMouseEvent& event);
+  void ButtonDown(const wxMouseEvent& event, bool left);
+  void ButtonUp(const wxMouseEvent& event, bool left);
 };
 
 // A two-state button drawn from an image cache.

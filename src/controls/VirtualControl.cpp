@@ -264,34 +264,38 @@ void VirtualControl::TakeMeta(const wxMouseEvent& event) {
   m_bMetaB = event.ControlDown();
 }
 
+void VirtualControl::ButtonDown(const wxMouseEvent& event, bool left) {
+  if (!m_bEnabled) return;
+  SetLastMousePos(event.GetX(), event.GetY());
+  SetLastDownPos(event.GetX(), event.GetY());
+  TakeMeta(event);
+  if (left)
+    SetMouseDownLeft(true);
+  else
+    SetMouseDownRight(true);
+}
+
+void VirtualControl::ButtonUp(const wxMouseEvent& event, bool left) {
+  if (!m_bEnabled) return;
+  SetLastMousePos(event.GetX(), event.GetY());
+  TakeMeta(event);
+  if (left)
+    SetMouseDownLeft(false);
+  else
+    SetMouseDownRight(false);
+}
+
 void VirtualControl::OnLeftDown(wxMouseEvent& event) {
-  if (!m_bEnabled) return;
-  SetLastMousePos(event.GetX(), event.GetY());
-  SetLastDownPos(event.GetX(), event.GetY());
-  TakeMeta(event);
-  SetMouseDownLeft(true);
+  ButtonDown(event, true);
 }
-
 void VirtualControl::OnLeftUp(wxMouseEvent& event) {
-  if (!m_bEnabled) return;
-  SetLastMousePos(event.GetX(), event.GetY());
-  TakeMeta(event);
-  SetMouseDownLeft(false);
+  ButtonUp(event, true);
 }
-
 void VirtualControl::OnRightDown(wxMouseEvent& event) {
-  if (!m_bEnabled) return;
-  SetLastMousePos(event.GetX(), event.GetY());
-  SetLastDownPos(event.GetX(), event.GetY());
-  TakeMeta(event);
-  SetMouseDownRight(true);
+  ButtonDown(event, false);
 }
-
 void VirtualControl::OnRightUp(wxMouseEvent& event) {
-  if (!m_bEnabled) return;
-  SetLastMousePos(event.GetX(), event.GetY());
-  TakeMeta(event);
-  SetMouseDownRight(false);
+  ButtonUp(event, false);
 }
 
 void VirtualControl::OnEntering(wxMouseEvent& event) {

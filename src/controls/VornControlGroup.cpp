@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <string>
+#include <type_traits>
 
 #include "vorn/VirtualControl.h"
 #include "vorn/VornAssert.h"
@@ -60,22 +61,49 @@ bool Contains(const std::vector<T*>& sequence, const T* member) {
   return std::find(sequence.begin(), sequence.end(), member) != sequence.end();
 }
 
-// False when member is already there. The callers assert, so that the
-// report names the operation.
+// A failed registry operation, reported under the operation's own name.
+void RegistryFailed(const char* operation, int line) {
+  VornAssertFailed("0", operation, __FILE__, line);
+}
+
 template <class T>
-bool Append(std::vector<T*>& sequence, T* member) {
-  if (Contains(sequence, member)) return false;
+bool AppendMember(std::vector<T*>& sequence, T* member) {
+  VORN_ASSERT_TEXT(member != nullptr, "member != __null");
+  if (!member) return false;
+  if (Contains(sequence, member)) {
+    RegistryFailed("Register", __LINE__);
+    return false;
+  }
   sequence.push_back(member);
   return true;
 }
 
-// Removes member keeping the order of the rest; false when absent.
+// Removes member keeping the order of the rest and clears its link to group
+// if it points there. Null does nothing; a stranger is an assertion.
 template <class T>
-bool Remove(std::vector<T*>& sequence, T* member) {
+bool RemoveMember(std::vector<T*>& sequence, T* member, VornControlGroup* group) {
+  if (!member) return false;
   auto it = std::find(sequence.begin(), sequence.end(), member);
-  if (it == sequence.end()) return false;
+  if (it == sequence.end()) {
+    RegistryFailed("DeRegister", __LINE__);
+    return false;
+  }
   sequence.erase(it);
+  if constexpr (!std::is_same_v<T, MessageReceiver>) {
+    if (member->GetGroup() == group) member->SetGroup(nullptr);
+  }
   return true;
+}
+
+// Deregisters the first member until none is left; a subclass whose
+// DeRegister keeps the member cannot stall the loop.
+template <class T>
+void DrainSequence(VornControlGroup& group, std::vector<T*>& sequence) {
+  while (!sequence.empty()) {
+    const std::size_t before = sequence.size();
+    group.DeRegister(sequence.front());
+    if (sequence.size() == before) sequence.erase(sequence.begin());
+  }
 }
 
 std::string Address(const void* p) {
@@ -197,57 +225,49 @@ void VornControlGroup::ControlSelected(unsigned int, VirtualControl*) {}
 void VornControlGroup::ControlUnSelected(unsigned int, VirtualControl*) {}
 void VornControlGroup::ControlDoubleClick(unsigned int, VirtualControl*) {}
 
-// Both return false, changing nothing, when the id is taken; the callers
-// assert so that the report names the operation.
+// Both change nothing and assert, under the operation's name, when the id
+// is taken.
 bool VornControlGroup::InsertControl(unsigned int id, VornControl* control, VornString name,
                                      bool own) {
-  if (!InsertSorted(m_controlsById, VornControlEntry{id, own, control, std::move(name)}))
+  if (!InsertSorted(m_controlsById, VornControlEntry{id, own, control, std::move(name)})) {
+    RegistryFailed(own ? "RegisterOwner" : "Register", __LINE__);
     return false;
+  }
   ++m_generation;
   return true;
 }
 
 bool VornControlGroup::InsertVirtual(unsigned int id, VirtualControl* control, bool own) {
-  if (!InsertSorted(m_virtualControlsById, VirtualControlEntry{id, own, control, "NONAME"}))
+  if (!InsertSorted(m_virtualControlsById, VirtualControlEntry{id, own, control, "NONAME"})) {
+    RegistryFailed(own ? "RegisterOwner" : "Register", __LINE__);
     return false;
+  }
   ++m_generation;
   return true;
 }
 
 bool VornControlGroup::Register(unsigned int id, VornControl* control, VornString name) {
-  const bool inserted = InsertControl(id, control, std::move(name), false);
-  VORN_ASSERT_TEXT(inserted, "0");
-  return inserted;
+  return InsertControl(id, control, std::move(name), false);
 }
 
 bool VornControlGroup::Register(unsigned int id, VornControl* control) {
-  const bool inserted = InsertControl(id, control, "NONAME", false);
-  VORN_ASSERT_TEXT(inserted, "0");
-  return inserted;
+  return InsertControl(id, control, "NONAME", false);
 }
 
 bool VornControlGroup::Register(unsigned int id, VirtualControl* control) {
-  const bool inserted = InsertVirtual(id, control, false);
-  VORN_ASSERT_TEXT(inserted, "0");
-  return inserted;
+  return InsertVirtual(id, control, false);
 }
 
 bool VornControlGroup::RegisterOwner(unsigned int id, VornControl* control, VornString name) {
-  const bool inserted = InsertControl(id, control, std::move(name), true);
-  VORN_ASSERT_TEXT(inserted, "0");
-  return inserted;
+  return InsertControl(id, control, std::move(name), true);
 }
 
 bool VornControlGroup::RegisterOwner(unsigned int id, VornControl* control) {
-  const bool inserted = InsertControl(id, control, "NONAME", true);
-  VORN_ASSERT_TEXT(inserted, "0");
-  return inserted;
+  return InsertControl(id, control, "NONAME", true);
 }
 
 bool VornControlGroup::RegisterOwner(unsigned int id, VirtualControl* control) {
-  const bool inserted = InsertVirtual(id, control, true);
-  VORN_ASSERT_TEXT(inserted, "0");
-  return inserted;
+  return InsertVirtual(id, control, true);
 }
 
 bool VornControlGroup::EraseControlEntry(std::vector<VornControlEntry>::iterator it, bool keep) {
@@ -295,64 +315,38 @@ bool VornControlGroup::DeRegister(unsigned int id, bool keep) {
 }
 
 bool VornControlGroup::Register(VornControl* control) {
-  VORN_ASSERT(control != nullptr);
-  const bool appended = control && Append(m_controls, control);
-  VORN_ASSERT_TEXT(appended || !control, "0");
-  return appended;
+  return AppendMember(m_controls, control);
 }
 
 bool VornControlGroup::Register(VirtualControl* control) {
-  VORN_ASSERT(control != nullptr);
-  const bool appended = control && Append(m_virtualControls, control);
-  VORN_ASSERT_TEXT(appended || !control, "0");
-  return appended;
+  return AppendMember(m_virtualControls, control);
 }
 
 bool VornControlGroup::Register(VornControlGroup* group) {
-  VORN_ASSERT(group != nullptr);
-  const bool appended = group && Append(m_groups, group);
-  VORN_ASSERT_TEXT(appended || !group, "0");
-  return appended;
+  return AppendMember(m_groups, group);
 }
 
 bool VornControlGroup::Register(MessageReceiver* receiver) {
   dprintf("VornControlGroup::Register(MessageReceiver* %p)\n", static_cast<void*>(receiver));
-  VORN_ASSERT(receiver != nullptr);
-  const bool appended = receiver && Append(m_receivers, receiver);
-  VORN_ASSERT_TEXT(appended || !receiver, "0");
-  return appended;
+  return AppendMember(m_receivers, receiver);
 }
 
 bool VornControlGroup::DeRegister(VornControl* control) {
-  if (!control) return false;
-  const bool removed = Remove(m_controls, control);
-  VORN_ASSERT_TEXT(removed, "0");
-  if (removed && control->GetGroup() == this) control->SetGroup(nullptr);
-  return removed;
+  return RemoveMember(m_controls, control, this);
 }
 
 bool VornControlGroup::DeRegister(VirtualControl* control) {
-  if (!control) return false;
-  const bool removed = Remove(m_virtualControls, control);
-  VORN_ASSERT_TEXT(removed, "0");
-  if (removed && control->GetGroup() == this) control->SetGroup(nullptr);
-  return removed;
+  return RemoveMember(m_virtualControls, control, this);
 }
 
 bool VornControlGroup::DeRegister(VornControlGroup* group) {
-  if (!group) return false;
-  const bool removed = Remove(m_groups, group);
-  VORN_ASSERT_TEXT(removed, "0");
-  if (removed && group->GetGroup() == this) group->SetGroup(nullptr);
-  return removed;
+  return RemoveMember(m_groups, group, this);
 }
 
 bool VornControlGroup::DeRegister(MessageReceiver* receiver) {
   if (!receiver) return false;
   dprintf("VornControlGroup::DeRegister(MessageReceiver* %p)\n", static_cast<void*>(receiver));
-  const bool removed = Remove(m_receivers, receiver);
-  VORN_ASSERT_TEXT(removed, "0");
-  return removed;
+  return RemoveMember(m_receivers, receiver, this);
 }
 
 bool VornControlGroup::Clear() {
@@ -360,26 +354,10 @@ bool VornControlGroup::Clear() {
   // subclass may point that at another registry.
   while (!m_controlsById.empty()) EraseControlEntry(m_controlsById.begin(), true);
   while (!m_virtualControlsById.empty()) EraseVirtualEntry(m_virtualControlsById.begin(), true);
-  while (!m_controls.empty()) {
-    const std::size_t before = m_controls.size();
-    DeRegister(m_controls.front());
-    if (m_controls.size() == before) m_controls.erase(m_controls.begin());
-  }
-  while (!m_virtualControls.empty()) {
-    const std::size_t before = m_virtualControls.size();
-    DeRegister(m_virtualControls.front());
-    if (m_virtualControls.size() == before) m_virtualControls.erase(m_virtualControls.begin());
-  }
-  while (!m_groups.empty()) {
-    const std::size_t before = m_groups.size();
-    DeRegister(m_groups.front());
-    if (m_groups.size() == before) m_groups.erase(m_groups.begin());
-  }
-  while (!m_receivers.empty()) {
-    const std::size_t before = m_receivers.size();
-    DeRegister(m_receivers.front());
-    if (m_receivers.size() == before) m_receivers.erase(m_receivers.begin());
-  }
+  DrainSequence(*this, m_controls);
+  DrainSequence(*this, m_virtualControls);
+  DrainSequence(*this, m_groups);
+  DrainSequence(*this, m_receivers);
   m_pControlGroup = nullptr;
   return true;
 }
