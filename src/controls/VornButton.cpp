@@ -2,6 +2,7 @@
 // reactions of each kind of button.
 #include "vorn/VornButton.h"
 
+#include <wx/control.h>
 #include <wx/dcmemory.h>
 #include <wx/graphics.h>
 
@@ -52,6 +53,13 @@ void BlitSheet(wxDC& dc, const WallpaperImageInfo<wxBitmap>& info) {
   source.SelectObjectAsSource(*info.bitmap);
   dc.Blit(0, 0, info.width, info.height, &source, info.x, info.y, wxCOPY, false);
   source.SelectObject(wxNullBitmap);
+}
+
+// The label shortened with an ellipsis when wider than width.
+wxString FitLabel(wxDC& dc, const wxString& label, int width) {
+  if (width <= 0) return wxString();
+  if (dc.GetTextExtent(label).x <= width) return label;
+  return wxControl::Ellipsize(label, dc, wxELLIPSIZE_END, width);
 }
 
 // Where a label of the given extent starts: at pos, or centred in span when
@@ -634,8 +642,9 @@ void VornTextPushButton::OnDraw(wxDC* dc) {
     colour = Mix(m_textColour, m_background, 0.55);
   else if (GetMouseDown() || GetMouseOver())
     colour = m_textColour2;
-  const wxString label = wxString::FromUTF8(m_text.c_str());
   dc->SetFont(m_font.IsOk() ? m_font : *wxNORMAL_FONT);
+  const int room = m_textX >= 0 ? GetWidth() - m_textX : GetWidth() - 8;
+  const wxString label = FitLabel(*dc, wxString::FromUTF8(m_text.c_str()), room);
   dc->SetTextForeground(colour);
   dc->SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
   wxCoord tw = 0;
@@ -718,10 +727,13 @@ void VornTextRadioButton::OnDraw(wxDC* dc) {
   dc->SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
   const int pad = std::max(4, GetHeight() / 3);
   const int press = GetMouseDown() ? 1 : 0;
-  const wxString first = wxString::FromUTF8(m_text.c_str());
-  const wxString second = wxString::FromUTF8(m_text2.c_str());
+  const wxString second = FitLabel(*dc, wxString::FromUTF8(m_text2.c_str()), GetWidth() - 2 * pad);
   wxCoord tw = 0;
   wxCoord th = 0;
+  // The first label gives way to the second when both do not fit.
+  const int secondWidth = second.empty() ? 0 : dc->GetTextExtent(second).x + pad / 2;
+  const wxString first =
+      FitLabel(*dc, wxString::FromUTF8(m_text.c_str()), GetWidth() - 2 * pad - secondWidth);
   if (!first.empty()) {
     dc->GetTextExtent(first, &tw, &th);
     const int x = second.empty() ? (GetWidth() - tw) / 2 : pad;
