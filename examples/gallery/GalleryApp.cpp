@@ -62,6 +62,7 @@ bool LoadSkin(AssetManager& assets, const SkinOptions& options, const char* lang
     auto loader = std::make_unique<FileAssetLoader>();
     const wxString dir =
         options.skinDir.empty() ? DefaultSkinDir() : WithSeparator(options.skinDir);
+    dprintf("vorn-gallery: skin directory %s\n", Utf8(dir).c_str());
     if (loader->Init(Utf8(dir))) loaders = assets.SetAssetLoader(loader.release());
   }
   // Archives come after the directory, so they override it.

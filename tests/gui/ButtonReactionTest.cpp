@@ -259,10 +259,12 @@ TEST_F(ButtonReactionTest, ButtonsAndGroupsDieInEitherOrder) {
     early.reset();
     EXPECT_EQ(nullptr, radio->GetGroup());
     Click(radio);  // no group left to report to
-    Click(moment);
+    Mouse(moment, wxEVT_LEFT_DOWN);
     EXPECT_TRUE(radio->GetOn());
+    EXPECT_TRUE(moment->GetTimer()->IsRunning());
     delete radio;
-    delete moment;
+    delete moment;  // with its repeat timer still running
+    PumpEvents();
   }
   {
     Log valueLog;
