@@ -39,6 +39,14 @@ void RadioRelease(VornButton& button, VornControlGroup1ofN* group, bool toggle) 
   }
 }
 
+// A group that was cleared or destroyed has unbound the button, so a stored
+// group pointer is trusted only while the binding still names it.
+template <class Group>
+Group* WhileBound(const VornControl& button, Group* stored) {
+  const VornControlGroup* bound = button.GetGroup();
+  return stored && bound == static_cast<VornControlGroup1ofN*>(stored) ? stored : nullptr;
+}
+
 wxColour Mix(const wxColour& a, const wxColour& b, double t) {
   auto channel = [t](unsigned char x, unsigned char y) {
     return static_cast<unsigned char>(std::lround(x + (y - x) * t));
@@ -228,11 +236,8 @@ bool VornRadioButton::Create(const VornwxBitmapCache* cache, int x, int y, int w
   return VornButton::Create(cache, x, y, w, h, parent, id, group, style);
 }
 
-// A group that was cleared or destroyed has unbound the button, so the stored
-// pointer is trusted only while the binding still names it.
 VornControlGroup1ofN* VornRadioButton::GetGroup() {
-  VornControlGroup* bound = VornControl::GetGroup();
-  return bound && bound == m_pGroup1ofN ? m_pGroup1ofN : nullptr;
+  return WhileBound(*this, m_pGroup1ofN);
 }
 
 void VornRadioButton::OnMouseButton() {
@@ -258,9 +263,7 @@ VornMoonButton::VornMoonButton(const VornwxBitmapCache* cache, int x, int y, int
 }
 
 VornValueControlGroup1ofN* VornMoonButton::GetValueGroup() {
-  return m_pValueGroup && GetGroup() == static_cast<VornControlGroup1ofN*>(m_pValueGroup)
-             ? m_pValueGroup
-             : nullptr;
+  return WhileBound(*this, m_pValueGroup);
 }
 
 void VornMoonButton::OnMouseButton() {
@@ -312,9 +315,7 @@ bool VornRingButton::Create(const wxColour& colour, int thickness, int leftWidth
 }
 
 VornValueControlGroup1ofN* VornRingButton::GetValueGroup() {
-  return m_pValueGroup && GetGroup() == static_cast<VornControlGroup1ofN*>(m_pValueGroup)
-             ? m_pValueGroup
-             : nullptr;
+  return WhileBound(*this, m_pValueGroup);
 }
 
 void VornRingButton::SetColour(const wxColour& colour) {
@@ -690,8 +691,7 @@ VornTextRadioButton::VornTextRadioButton(const VornwxBitmapCache* cache, const V
 }
 
 VornControlGroup1ofN* VornTextRadioButton::GetGroup() {
-  VornControlGroup* bound = VornControl::GetGroup();
-  return bound && bound == m_pGroup1ofN ? m_pGroup1ofN : nullptr;
+  return WhileBound(*this, m_pGroup1ofN);
 }
 
 void VornTextRadioButton::OnMouseButton() {
