@@ -38,7 +38,7 @@ const char kUsage[] =
     ".lbs script of the skin is rendered.\n"
     "\n"
     "options:\n"
-    "  -o, --output DIR      where the sheets go (default: the current directory)\n"
+    "  -o, --output DIR      where the sheets go, created if missing (default: the current directory)\n"
     "  -p, --platform NAME   platform directory to use (default: none)\n"
     "  -l, --language NAME   language, optionally LANGUAGE/SUBLANGUAGE (default: english)\n"
     "  --colours NAME        colour database asset (default: colours.txt)\n"
@@ -470,8 +470,9 @@ int Run(const Options& o) {
     Fail("skin directory " + o.skin + " does not exist");
     return 2;
   }
-  if (!fs::is_directory(o.output, ec)) {
-    Fail("output directory " + o.output + " does not exist");
+  // A designer's first run usually names a fresh directory: make it.
+  if (!fs::is_directory(o.output, ec) && !fs::create_directories(o.output, ec)) {
+    Fail("cannot create output directory " + o.output + (ec ? ": " + ec.message() : ""));
     return 2;
   }
   SetWarningMessageHandler([](const VornString& title, const VornString& text) {
