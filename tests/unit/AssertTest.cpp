@@ -4,7 +4,9 @@
 #include "vorn/VornAssert.h"
 
 namespace {
-void NeedsPositive(int v) { VORN_ASSERT(v > 0); }
+void NeedsPositive(int v) {
+  VORN_ASSERT(v > 0);
+}
 void NeedsNoGroup(const void* group) {
   VORN_ASSERT_TEXT(group == nullptr, "m_pControlGroup == __null");
 }
@@ -32,8 +34,6 @@ TEST(Assert, CustomTextAndNoFireWhenTrue) {
 }
 
 TEST(Assert, HandlerIsRestoredAndDefaultAborts) {
-  {
-    ScopedAssertThrow guard;
-  }
+  { ScopedAssertThrow guard; }
   EXPECT_DEATH(NeedsPositive(-1), "Assertion failed: v > 0 in NeedsPositive");
 }

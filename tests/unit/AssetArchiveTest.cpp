@@ -2,7 +2,6 @@
 // archives of a set, and the round trip through the archive writer.
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 
 #include "AssetTestUtil.h"
 #include "TestSupport.h"
@@ -14,8 +13,9 @@ namespace fs = std::filesystem;
 namespace {
 
 std::string Le32(std::uint32_t v) {
-  return {static_cast<char>(v & 0xff), static_cast<char>((v >> 8) & 0xff),
-          static_cast<char>((v >> 16) & 0xff), static_cast<char>((v >> 24) & 0xff)};
+  std::string s;
+  for (int shift = 0; shift < 32; shift += 8) s.push_back(static_cast<char>((v >> shift) & 0xff));
+  return s;
 }
 
 // An archive built by hand: the length field, the data, the directory.
@@ -30,6 +30,10 @@ std::string Hundred() {
   return s;
 }
 
+std::string Bytes(Asset* a) {
+  return std::string(reinterpret_cast<char*>(a->GetDataPtr()), a->GetSize());
+}
+
 TEST(ArchiveAsset, EntriesServeBytesFromTheBufferWithoutOpen) {
   TempDir dir;
   const std::string path = dir.Write("a.vrk", RawArchive(110, Hundred() + "x\r\ny\rz",
@@ -42,83 +46,69 @@ TEST(ArchiveAsset, EntriesServeBytesFromTheBufferWithoutOpen) {
   ASSERT_TRUE(m.LoadAssets());
   EXPECT_TRUE(debug.Contains(path + "\n"));
   EXPECT_EQ(m.GetNumAssets(), 3u);
-
-  for (const char* platform : {"", "Linux", "Mac"}) {
-    m.SetPlatform(platform);
-    m.SetLanguage("german", "");
-    Asset* icon = nullptr;
-    ASSERT_TRUE(m.GetAsset("ICON.PNG", icon)) << platform;
-    EXPECT_EQ(Identity(icon), "//");
-    ASSERT_EQ(icon->GetSize(), 100);
-    EXPECT_EQ(std::string(reinterpret_cast<char*>(icon->GetDataPtr()), 100), Hundred());
-  }
-  Asset* title = nullptr;
+  Asset *icon = nullptr, *title = nullptr, *empty = nullptr;
+  m.SetPlatform("Mac");
+  m.SetLanguage("german", "");
+  ASSERT_TRUE(m.GetAsset("ICON.PNG", icon));
+  EXPECT_EQ(Identity(icon), "//");
+  EXPECT_EQ(Bytes(icon), Hundred());
   m.SetLanguage("english", "");
   ASSERT_TRUE(m.GetAsset("title.txt", title));
   EXPECT_EQ(title->name, "title.txt");
   EXPECT_EQ(Identity(title), "generic/english/");
   EXPECT_STREQ(title->GetTextPtr(), "x\ny\nz");  // no Open needed
-
   m.SetPlatform("linux");
   m.SetLanguage("english", "uk");
-  Asset* empty = nullptr;
   ASSERT_TRUE(m.GetAsset("empty.txt", empty));
   EXPECT_EQ(empty->GetSize(), 0);
   EXPECT_STREQ(empty->GetTextPtr(), "");
 
   // After the loader freed its buffer, the assets serve nothing.
-  Asset* icon = nullptr;
-  m.GetAsset("icon.png", icon);
   m.CloseAll();
   EXPECT_EQ(icon->GetDataPtr(), nullptr);
   EXPECT_EQ(icon->GetTextPtr(), nullptr);
   EXPECT_STREQ(title->GetTextPtr(), "x\ny\nz");  // built earlier, kept
 }
 
-struct BrokenArchive {
-  const char* what;
-  std::string bytes;  // empty with missing=true: no file at all
-  bool missing = false;
-};
-
 TEST(ArchiveAsset, BrokenArchivesAreRefusedByOpen) {
-  const std::string data = Hundred();
-  const BrokenArchive cases[] = {
+  const std::string data = Hundred(), line = "a NONE NONE NONE 4 5\n";
+  const struct {
+    const char* what;
+    std::string bytes;
+    bool missing;
+  } cases[] = {
       {"missing file", "", true},
-      {"empty file", ""},
-      {"short length", "\x05\x00"},
-      {"length 0", RawArchive(0, data, "a NONE NONE NONE 4 5\n")},
-      {"length 3", RawArchive(3, data, "a NONE NONE NONE 4 5\n")},
-      {"length beyond the file", RawArchive(100000, data, "a NONE NONE NONE 4 5\n")},
-      {"no directory", Le32(104) + data},
-      {"directory length beyond the file", Le32(104) + data + Le32(50) + "abc"},
-      {"huge directory length", Le32(104) + data + Le32(0xffffffffu)},
+      {"empty file", "", false},
+      {"short length", "\x05", false},
+      {"length 0", RawArchive(0, data, line), false},
+      {"length 3", RawArchive(3, data, line), false},
+      {"length beyond the file", RawArchive(100000, data, line), false},
+      {"no directory", Le32(104) + data, false},
+      {"directory length beyond the file", Le32(104) + data + Le32(50) + "abc", false},
+      {"huge directory length", Le32(104) + data + Le32(0xffffffffu), false},
   };
-  for (const BrokenArchive& c : cases) {
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.what);
     TempDir dir;
     const std::string path = dir.Path() + "data1.vrk";
     if (!c.missing) dir.Write("data1.vrk", c.bytes);
     ArchiveAssetLoader loader(path.c_str());
-    EXPECT_FALSE(loader.Open()) << c.what;
-    EXPECT_FALSE(loader.GetLastError().empty()) << c.what;
-    EXPECT_TRUE(loader.GetDirectory().empty()) << c.what;
+    EXPECT_FALSE(loader.Open());
+    EXPECT_FALSE(loader.GetLastError().empty());
+    EXPECT_TRUE(loader.GetDirectory().empty());
 
     // Through the manager: reported by name, skipped, the others load.
     dir.Write("good.txt", "good");
     AssetManager m;
     m.SetAssetLoader(new ArchiveAssetLoader(path.c_str()));
-    auto* files = new FileAssetLoader;
-    files->Init(dir.Path());
-    m.SetAssetLoader(files);
     CaptureWarnings warnings;
-    EXPECT_FALSE(m.LoadAssets()) << c.what;
-    ASSERT_EQ(warnings.Warnings().size(), 1u) << c.what;
+    EXPECT_FALSE(LoadTree(m, dir.Path()));
+    ASSERT_EQ(warnings.Warnings().size(), 1u);
     EXPECT_EQ(warnings.Warnings()[0].title, "AssetManager Load Error");
-    EXPECT_NE(warnings.Warnings()[0].text.find("Cannot open archive [" + path + "]: "),
-              std::string::npos)
+    EXPECT_EQ(warnings.Warnings()[0].text.find("Cannot open archive [" + path + "]: "), 0u)
         << warnings.Warnings()[0].text;
     std::string text;
-    EXPECT_TRUE(m.LoadText("good.txt", text)) << c.what;
+    EXPECT_TRUE(m.LoadText("good.txt", text));
   }
   ArchiveAssetLoader unnamed;
   EXPECT_FALSE(unnamed.Open());
@@ -149,18 +139,16 @@ TEST(ArchiveAsset, DirectoryLinesOutsideTheDataBlockAreSkippedWithAWarning) {
   const char* refused[] = {"before", "past", "reversed", "negative", "overflow"};
   ASSERT_EQ(warnings.Warnings().size(), 5u);
   for (std::size_t i = 0; i < 5; ++i) {
-    EXPECT_EQ(warnings.Warnings()[i].title, "ArchiveAsset Error");
-    EXPECT_EQ(
-        warnings.Warnings()[i].text.rfind(std::string("Entry [") + refused[i] + "] on line " +
-                                              std::to_string(i + 2) + " of archive [" + path + "]",
-                                          0),
-        0u)
-        << warnings.Warnings()[i].text;
+    const auto& w = warnings.Warnings()[i];
+    EXPECT_EQ(w.title, "ArchiveAsset Error");
+    EXPECT_EQ(w.text.find(std::string("Entry [") + refused[i] + "] on line " +
+                          std::to_string(i + 2) + " of archive [" + path + "]"),
+              0u)
+        << w.text;
   }
   Asset* ok = nullptr;
   ASSERT_TRUE(m.GetAsset("ok2", ok));
-  ASSERT_EQ(ok->GetSize(), 4);
-  EXPECT_EQ(ok->GetDataPtr()[0], 96);
+  EXPECT_EQ(Bytes(ok), "\x60\x61\x62\x63");
 }
 
 TEST(ArchiveDiscovery, ArchivesOfASetOrderedByNumber) {
@@ -172,38 +160,40 @@ TEST(ArchiveDiscovery, ArchivesOfASetOrderedByNumber) {
   CaptureDprintf debug;
   const auto loaders = ArchiveAssetLoader::GetArchiveAssetLoaders(dir.Path(), "Data");
   EXPECT_TRUE(debug.Contains(dir.Path() + "\n"));
-  std::vector<std::string> names;
-  for (const auto& l : loaders) names.push_back(fs::path(l->GetPath()).filename().string());
-  EXPECT_EQ(names, (std::vector<std::string>{"data.vrk", "data1.vrk", "DATA2.vrk", "data7x.vrk",
-                                             "data10.vrk"}));
-  EXPECT_EQ(loaders[0]->GetPath(), dir.Path() + "data.vrk");
-
+  std::vector<std::string> paths;
+  for (const auto& l : loaders) paths.push_back(l->GetPath());
+  std::vector<std::string> expected;
+  for (const char* name : {"data.vrk", "data1.vrk", "DATA2.vrk", "data7x.vrk", "data10.vrk"})
+    expected.push_back(dir.Path() + name);
+  EXPECT_EQ(paths, expected);
   EXPECT_TRUE(ArchiveAssetLoader::GetArchiveAssetLoaders(dir.Path() + "none/", "data").empty());
   EXPECT_TRUE(ArchiveAssetLoader::GetArchiveAssetLoaders("", "data").empty());
 }
 
-// Writes a tree, packing it as archives, and loading both ways.
+// A tree with a variant in every directory the loader reads, packed as
+// archives and loaded both ways.
 class RoundTripTest : public testing::Test {
  protected:
   void SetUp() override {
     m_tree.Write("root.txt", "root\r\n");
     m_tree.Write("README", "no extension");
     m_tree.Write("shared.png", std::string("\x89PNG\0\1\2", 7));
-    m_tree.Write("Generic/shared.png", "generic");
-    m_tree.Write("Generic/english/shared.png", "generic english");
-    m_tree.Write("Generic/english/uk/shared.png", "generic uk");
-    m_tree.Write("Linux/shared.png", "linux");
-    m_tree.Write("Linux/english/shared.png", "linux english");
-    m_tree.Write("Linux/english/uk/shared.png", "linux uk");
+    for (const char* d : {"Generic/", "Generic/english/", "Generic/english/uk/", "Linux/",
+                          "Linux/english/", "Linux/english/uk/"})
+      m_tree.Write(std::string(d) + "shared.png", d);
     m_tree.Write("Linux/english/uk/Only.TXT", "");
     m_tree.Write("Linux/english/uk/deeper/ignored.txt", "x");
     m_tree.Write("Linux/.hidden", "x");
   }
-  static void Settings(AssetManager& m) {
+  // Loads the archives of a set into m, with platform Linux, english, uk.
+  void LoadSet(AssetManager& m, const std::string& prefix) {
+    for (auto& loader : ArchiveAssetLoader::GetArchiveAssetLoaders(m_out.Path(), prefix))
+      m.SetAssetLoader(loader.release());
     m.SetPlatform("Linux");
     m.SetLanguage("english", "uk");
+    ASSERT_TRUE(m.LoadAssets());
   }
-  // Every variant of the names, as "identity=bytes", sorted.
+  // Every variant of the names, as "name identity=bytes", sorted.
   static std::vector<std::string> Variants(AssetManager& m) {
     std::vector<std::string> out;
     for (const char* name : {"root.txt", "readme.", "shared.png", "only.txt", "ignored.txt"}) {
@@ -211,86 +201,43 @@ class RoundTripTest : public testing::Test {
       m.GetAllAssets(name, all);
       for (Asset* a : all) {
         a->Open();
-        out.push_back(a->name + " " + Identity(a) + "=" +
-                      std::string(reinterpret_cast<char*>(a->GetDataPtr()), a->GetSize()));
+        out.push_back(a->name + " " + Identity(a) + "=" + Bytes(a));
         a->Close();
       }
     }
     std::sort(out.begin(), out.end());
     return out;
   }
-  TempDir m_tree;
-  TempDir m_out;
+  TempDir m_tree, m_out;
+  std::string m_error;
 };
 
-TEST_F(RoundTripTest, PackedTreeLoadsLikeTheTree) {
-  std::vector<VornArchiveEntry> entries;
-  std::string error;
+TEST_F(RoundTripTest, PackedTreeLoadsLikeTheTreeAndExtractsToIt) {
+  std::vector<VornArchiveEntry> entries, read;
   std::vector<std::string> ignored;
-  ASSERT_TRUE(VornCollectAssetTree(m_tree.Path(), "Linux", entries, error, &ignored)) << error;
+  ASSERT_TRUE(VornCollectAssetTree(m_tree.Path(), "Linux", entries, m_error, &ignored)) << m_error;
   EXPECT_EQ(ignored, std::vector<std::string>{m_tree.Path() + "Linux/english/uk/deeper/"});
-  const std::string archive = m_out.Path() + "data1.vrk";
-  ASSERT_TRUE(VornWriteArchive(archive, entries, error)) << error;
+  ASSERT_TRUE(VornWriteArchive(m_out.Path() + "data1.vrk", entries, m_error)) << m_error;
 
   AssetManager fromTree, fromArchive;
-  Settings(fromTree);
-  Settings(fromArchive);
+  fromTree.SetPlatform("Linux");
+  fromTree.SetLanguage("english", "uk");
   ASSERT_TRUE(LoadTree(fromTree, m_tree.Path()));
-  for (auto& loader : ArchiveAssetLoader::GetArchiveAssetLoaders(m_out.Path(), "data"))
-    fromArchive.SetAssetLoader(loader.release());
-  ASSERT_TRUE(fromArchive.LoadAssets());
-  EXPECT_EQ(fromArchive.GetNumAssets(), fromTree.GetNumAssets());
+  LoadSet(fromArchive, "data");
   EXPECT_EQ(fromTree.GetNumAssets(), 10u);
-  const auto variants = Variants(fromTree);
-  EXPECT_EQ(Variants(fromArchive), variants);
-  EXPECT_EQ(variants.size(), 10u);
-}
+  EXPECT_EQ(fromArchive.GetNumAssets(), 10u);
+  EXPECT_EQ(Variants(fromArchive), Variants(fromTree));
+  EXPECT_EQ(Variants(fromTree).size(), 10u);
 
-TEST_F(RoundTripTest, HigherNumberedArchiveOverridesVariantByVariant) {
-  std::vector<VornArchiveEntry> base, patch;
-  std::string error;
-  ASSERT_TRUE(VornCollectAssetTree(m_tree.Path(), "", base, error)) << error;
-  TempDir patchTree;
-  patchTree.Write("Linux/english/shared.png", "patched linux english");
-  patchTree.Write("Linux/new.txt", "new");
-  ASSERT_TRUE(VornCollectAssetTree(patchTree.Path(), "", patch, error)) << error;
-  // The patch is numbered 10 and listed in any order with 2.
-  ASSERT_TRUE(VornWriteArchive(m_out.Path() + "set10.vrk", patch, error));
-  ASSERT_TRUE(VornWriteArchive(m_out.Path() + "SET2.vrk", base, error));
-
-  AssetManager m;
-  for (auto& loader : ArchiveAssetLoader::GetArchiveAssetLoaders(m_out.Path(), "set"))
-    m.SetAssetLoader(loader.release());
-  Settings(m);
-  ASSERT_TRUE(m.LoadAssets());
-  EXPECT_EQ(m.GetNumAssets(), 11u);  // ten variants, one replaced, one added
-  std::string text;
-  m.SetLanguage("english", "");
-  ASSERT_TRUE(m.LoadText("shared.png", text));
-  EXPECT_EQ(text, "patched linux english");
-  m.SetLanguage("english", "uk");
-  ASSERT_TRUE(m.LoadText("shared.png", text));
-  EXPECT_EQ(text, "linux uk");
-  ASSERT_TRUE(m.LoadText("new.txt", text));
-  EXPECT_EQ(text, "new");
-}
-
-TEST_F(RoundTripTest, ExtractRecreatesTheTree) {
-  std::vector<VornArchiveEntry> entries, read;
-  std::string error;
-  ASSERT_TRUE(VornCollectAssetTree(m_tree.Path(), "", entries, error)) << error;
-  const std::string archive = m_out.Path() + "a.vrk";
-  ASSERT_TRUE(VornWriteArchive(archive, entries, error));
-  ASSERT_TRUE(VornReadArchive(archive, read, error)) << error;
+  ASSERT_TRUE(VornReadArchive(m_out.Path() + "data1.vrk", read, m_error)) << m_error;
   ASSERT_EQ(read.size(), entries.size());
   const std::string target = m_out.Path() + "tree/";
-  ASSERT_TRUE(VornExtractArchive(read, target, error)) << error;
+  ASSERT_TRUE(VornExtractArchive(read, target, m_error)) << m_error;
   std::vector<std::string> files;
   for (const auto& e : fs::recursive_directory_iterator(target))
     if (e.is_regular_file()) {
-      const std::string rel = e.path().string().substr(target.size());
-      files.push_back(rel);
-      EXPECT_EQ(ReadFileBytes(e.path().string()), ReadFileBytes(m_tree.Path() + rel)) << rel;
+      files.push_back(e.path().string().substr(target.size()));
+      EXPECT_EQ(ReadFileBytes(e.path().string()), ReadFileBytes(m_tree.Path() + files.back()));
     }
   std::sort(files.begin(), files.end());
   EXPECT_EQ(files.size(), 10u);
@@ -298,44 +245,55 @@ TEST_F(RoundTripTest, ExtractRecreatesTheTree) {
   EXPECT_TRUE(std::binary_search(files.begin(), files.end(), "README"));
 }
 
+TEST_F(RoundTripTest, HigherNumberedArchiveOverridesVariantByVariant) {
+  std::vector<VornArchiveEntry> base, patch;
+  ASSERT_TRUE(VornCollectAssetTree(m_tree.Path(), "", base, m_error)) << m_error;
+  TempDir patchTree;
+  patchTree.Write("Linux/english/shared.png", "patched");
+  patchTree.Write("Linux/new.txt", "new");
+  ASSERT_TRUE(VornCollectAssetTree(patchTree.Path(), "", patch, m_error)) << m_error;
+  // The patch is numbered 10 and listed in any order with 2.
+  ASSERT_TRUE(VornWriteArchive(m_out.Path() + "set10.vrk", patch, m_error));
+  ASSERT_TRUE(VornWriteArchive(m_out.Path() + "SET2.vrk", base, m_error));
+  AssetManager m;
+  LoadSet(m, "set");
+  EXPECT_EQ(m.GetNumAssets(), 11u);  // ten variants, one replaced, one added
+  std::string text;
+  for (const auto& [sub, expected] : {std::pair{"", "patched"}, {"uk", "Linux/english/uk/"}}) {
+    m.SetLanguage("english", sub);
+    ASSERT_TRUE(m.LoadText("shared.png", text));
+    EXPECT_EQ(text, expected);
+  }
+  ASSERT_TRUE(m.LoadText("new.txt", text));
+  EXPECT_EQ(text, "new");
+}
+
 TEST(ArchiveWriter, RefusesWhatATreeOrArchiveCannotHold) {
   std::string error;
   std::vector<VornArchiveEntry> entries;
-  {
+  for (const char* file : {"my icon.png", "NONE/a.txt"}) {
     TempDir tree;
-    tree.Write("my icon.png", "x");
-    EXPECT_FALSE(VornCollectAssetTree(tree.Path(), "", entries, error));
-    EXPECT_NE(error.find("white space"), std::string::npos) << error;
-  }
-  {
-    TempDir tree;
-    tree.Write("NONE/a.txt", "x");
-    EXPECT_FALSE(VornCollectAssetTree(tree.Path(), "", entries, error));
+    tree.Write(file, "x");
+    EXPECT_FALSE(VornCollectAssetTree(tree.Path(), "", entries, error)) << file;
+    EXPECT_FALSE(error.empty());
   }
   EXPECT_FALSE(VornCollectAssetTree("/nonexistent/tree/", "", entries, error));
 
   TempDir out;
-  const struct {
-    const char *name, *platform, *language, *sub;
-  } unplaceable[] = {
-      {"../escape", "NONE", "NONE", "NONE"}, {"a", "..", "NONE", "NONE"},
-      {"a", "NONE", "english", "NONE"},      {"a", "Linux", "NONE", "uk"},
-      {"..", "NONE", "NONE", "NONE"},
-  };
+  const std::array<const char*, 4> unplaceable[] = {{"../escape", "NONE", "NONE", "NONE"},
+                                                    {"a", "..", "NONE", "NONE"},
+                                                    {"a", "NONE", "english", "NONE"},
+                                                    {"a", "Linux", "NONE", "uk"},
+                                                    {"..", "NONE", "NONE", "NONE"}};
   for (const auto& u : unplaceable) {
-    VornArchiveEntry good, bad;
-    good.name = "good.txt";
-    bad.name = u.name;
-    bad.platform = u.platform;
-    bad.language = u.language;
-    bad.subLanguage = u.sub;
-    EXPECT_EQ(VornArchiveEntryPath(bad), "") << u.name << " " << u.platform;
+    const VornArchiveEntry good{"good.txt", "NONE", "NONE", "NONE", ""},
+        bad{u[0], u[1], u[2], u[3], ""};
+    EXPECT_EQ(VornArchiveEntryPath(bad), "") << u[0] << " " << u[1];
     EXPECT_FALSE(VornExtractArchive({good, bad}, out.Path() + "x/", error));
     EXPECT_FALSE(fs::exists(out.Path() + "x/good.txt"));  // nothing written
   }
-  VornArchiveEntry blank;
-  blank.name = "a b";
-  EXPECT_FALSE(VornWriteArchive(out.Path() + "w.vrk", {blank}, error));
+  EXPECT_FALSE(
+      VornWriteArchive(out.Path() + "w.vrk", {{"a b", "NONE", "NONE", "NONE", ""}}, error));
   EXPECT_FALSE(VornWriteArchive(out.Path() + "no/such/dir/w.vrk", {}, error));
 }
 

@@ -2,152 +2,117 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <functional>
 
 #include "TestSupport.h"
 #include "vorn/GraphicsFunctions.h"
 #include "vorn/UIFilters.h"
 
 namespace {
-// A one-pixel-high mask whose pixels have the given RGB triples.
-wxImage Mask(std::initializer_list<std::array<unsigned char, 3>> pixels) {
-  wxImage mask(static_cast<int>(pixels.size()), 1, false);
-  int x = 0;
-  for (const auto& p : pixels) mask.SetRGB(x++, 0, p[0], p[1], p[2]);
-  return mask;
-}
+using Rgba = std::array<unsigned char, 4>;
 
-BitmapA Filled(int width, int height, std::array<unsigned char, 4> rgba) {
-  BitmapA bmp;
-  bmp.width = width;
-  bmp.height = height;
-  bmp.format = 3;
+BitmapA Filled(int width, int height, Rgba rgba) {
+  BitmapA bmp{width, height, 3, {}};
   for (int i = 0; i < width * height; ++i)
     bmp.data.insert(bmp.data.end(), rgba.begin(), rgba.end());
   return bmp;
 }
 
-std::array<unsigned char, 4> PixelOf(const BitmapA& bmp, int x) {
-  const unsigned char* p = bmp.Pixel(x, 0);
+Rgba PixelOf(const BitmapA& bmp, int x, int y) {
+  const unsigned char* p = bmp.Pixel(x, y);
   return {p[0], p[1], p[2], p[3]};
 }
 
+wxColour RgbOf(const wxImage& image, int x, int y) {
+  return wxColour(image.GetRed(x, y), image.GetGreen(x, y), image.GetBlue(x, y));
+}
+
 const Color kColour(1.0, 0.5, 0.25);
-const std::array<unsigned char, 4> kStart = {200, 100, 50, 77};
-// Grey levels 0, 1, 128, 254, 255 (the first two from uneven channels).
-wxImage GreyLevels() {
-  return Mask({{1, 0, 0}, {2, 1, 0}, {128, 128, 128}, {255, 255, 254}, {255, 255, 255}});
-}
-}  // namespace
 
-TEST(GreyMasks, AlphaFromGrey) {
-  BitmapA mapped = Filled(5, 1, kStart);
-  BitmapA set = Filled(5, 1, kStart);
-  ASSERT_TRUE(MapAlphaFromGrey(mapped, GreyLevels()));
-  ASSERT_TRUE(SetAlphaFromGrey(set, GreyLevels()));
-  const unsigned char mapAlpha[] = {0, 255, 255, 255, 255};
-  const unsigned char setAlpha[] = {0, 1, 128, 254, 255};
+TEST(GreyMasks, EveryFormulaAtTheBoundaryLevels) {
+  // Grey levels 0, 1, 128, 254, 255 (the first two from uneven channels) on
+  // row 0, the same levels right to left on row 1.
+  const std::array<unsigned char, 3> levels[5] = {
+      {1, 0, 0}, {2, 1, 0}, {128, 128, 128}, {255, 255, 254}, {255, 255, 255}};
+  wxImage mask(5, 2, false);
   for (int x = 0; x < 5; ++x) {
-    EXPECT_EQ(PixelOf(mapped, x), (std::array<unsigned char, 4>{200, 100, 50, mapAlpha[x]})) << x;
-    EXPECT_EQ(PixelOf(set, x), (std::array<unsigned char, 4>{200, 100, 50, setAlpha[x]})) << x;
+    mask.SetRGB(x, 0, levels[x][0], levels[x][1], levels[x][2]);
+    mask.SetRGB(4 - x, 1, levels[x][0], levels[x][1], levels[x][2]);
   }
-}
-
-TEST(GreyMasks, ColoursFromGrey) {
-  // Expected bytes worked out from the blend d = trunc(trunc(c*t*255) + d*(1-t))
-  // and the overwrite d = trunc(c * grey).
-  const std::array<unsigned char, 3> mapped[] = {
+  // Worked out from the blend d = trunc(trunc(c*t*255) + d*(1-t)) and the
+  // overwrite d = trunc(c * grey), over the pixel (200, 100, 50, 77).
+  const std::array<unsigned char, 3> keep[5] = {
+      {200, 100, 50}, {200, 100, 50}, {200, 100, 50}, {200, 100, 50}, {200, 100, 50}};
+  const std::array<unsigned char, 3> mapped[5] = {
       {200, 100, 50}, {200, 99, 49}, {227, 113, 56}, {254, 127, 63}, {255, 127, 63}};
-  const std::array<unsigned char, 3> set[] = {
+  const std::array<unsigned char, 3> set[5] = {
       {0, 0, 0}, {1, 0, 0}, {128, 64, 32}, {254, 127, 63}, {255, 127, 63}};
-  const unsigned char mapAlpha[] = {0, 255, 255, 255, 255};
-  const unsigned char setAlpha[] = {0, 1, 128, 254, 255};
-
-  BitmapA mapColours = Filled(5, 1, kStart), mapAll = Filled(5, 1, kStart);
-  BitmapA setColours = Filled(5, 1, kStart), setAll = Filled(5, 1, kStart);
-  ASSERT_TRUE(MapColoursFromGrey(mapColours, GreyLevels(), kColour));
-  ASSERT_TRUE(MapAllFromGrey(mapAll, GreyLevels(), kColour));
-  ASSERT_TRUE(SetColoursFromGrey(setColours, GreyLevels(), kColour));
-  ASSERT_TRUE(SetAllFromGrey(setAll, GreyLevels(), kColour));
-  for (int x = 0; x < 5; ++x) {
-    const auto& m = mapped[x];
-    const auto& s = set[x];
-    EXPECT_EQ(PixelOf(mapColours, x), (std::array<unsigned char, 4>{m[0], m[1], m[2], 77})) << x;
-    EXPECT_EQ(PixelOf(mapAll, x), (std::array<unsigned char, 4>{m[0], m[1], m[2], mapAlpha[x]}))
-        << x;
-    EXPECT_EQ(PixelOf(setColours, x), (std::array<unsigned char, 4>{s[0], s[1], s[2], 77})) << x;
-    EXPECT_EQ(PixelOf(setAll, x), (std::array<unsigned char, 4>{s[0], s[1], s[2], setAlpha[x]}))
-        << x;
+  const unsigned char keepAlpha[5] = {77, 77, 77, 77, 77};
+  const unsigned char mapAlpha[5] = {0, 255, 255, 255, 255};
+  const unsigned char setAlpha[5] = {0, 1, 128, 254, 255};
+  using Fn = std::function<bool(BitmapA&, const wxImage&)>;
+  const struct {
+    const char* name;
+    Fn fn;
+    const std::array<unsigned char, 3>* rgb;
+    const unsigned char* alpha;
+  } cases[] = {
+      {"MapAlphaFromGrey", [](BitmapA& b, const wxImage& m) { return MapAlphaFromGrey(b, m); },
+       keep, mapAlpha},
+      {"SetAlphaFromGrey", [](BitmapA& b, const wxImage& m) { return SetAlphaFromGrey(b, m); },
+       keep, setAlpha},
+      {"MapColoursFromGrey",
+       [](BitmapA& b, const wxImage& m) { return MapColoursFromGrey(b, m, kColour); }, mapped,
+       keepAlpha},
+      {"MapAllFromGrey", [](BitmapA& b, const wxImage& m) { return MapAllFromGrey(b, m, kColour); },
+       mapped, mapAlpha},
+      {"SetColoursFromGrey",
+       [](BitmapA& b, const wxImage& m) { return SetColoursFromGrey(b, m, kColour); }, set,
+       keepAlpha},
+      {"SetAllFromGrey", [](BitmapA& b, const wxImage& m) { return SetAllFromGrey(b, m, kColour); },
+       set, setAlpha},
+  };
+  for (const auto& c : cases) {
+    BitmapA dst = Filled(5, 2, {200, 100, 50, 77});
+    ASSERT_TRUE(c.fn(dst, mask)) << c.name;
+    for (int x = 0; x < 5; ++x) {
+      const auto& rgb = c.rgb[x];
+      const Rgba expected = {rgb[0], rgb[1], rgb[2], c.alpha[x]};
+      EXPECT_EQ(PixelOf(dst, x, 0), expected) << c.name << " level " << x;
+      EXPECT_EQ(PixelOf(dst, 4 - x, 1), expected) << c.name << " level " << x << ", row 1";
+    }
+    BitmapA grey{5, 2, 1, std::vector<unsigned char>(20, 0)};
+    EXPECT_EQ(FiredAssertion([&] { c.fn(grey, mask); }), "dst.format == 3") << c.name;
+    EXPECT_EQ(grey.data, std::vector<unsigned char>(20, 0));
+    EXPECT_EQ(FiredAssertion([&] { c.fn(dst, wxImage(2, 5)); }),
+              "dst.width == gw && dst.height == gh")
+        << c.name;
   }
-}
-
-TEST(GreyMasks, WalksEveryRow) {
-  wxImage mask(3, 4, false);
-  for (int y = 0; y < 4; ++y)
-    for (int x = 0; x < 3; ++x) mask.SetRGB(x, y, y * 60, y * 60, y * 60);
-  BitmapA dst = Filled(3, 4, {0, 0, 0, 0});
-  ASSERT_TRUE(SetAllFromGrey(dst, mask, Color(1, 1, 1)));
-  for (int y = 0; y < 4; ++y)
-    for (int x = 0; x < 3; ++x) EXPECT_EQ(dst.Pixel(x, y)[3], y * 60) << x << "," << y;
-}
-
-TEST(GreyMasks, SizeAndFormatAreChecked) {
-  BitmapA dst = Filled(2, 2, kStart);
-  wxImage wide(3, 2);
-  EXPECT_EQ(FiredAssertion([&] { MapAlphaFromGrey(dst, wide); }),
-            "dst.width == gw && dst.height == gh");
-  EXPECT_EQ(FiredAssertion([&] { SetAllFromGrey(dst, wxImage(), kColour); }),
-            "dst.width == gw && dst.height == gh");
-  BitmapA grey;
-  grey.width = 3;
-  grey.height = 2;
-  grey.format = 1;
-  grey.data.assign(12, 0);
-  EXPECT_EQ(FiredAssertion([&] { MapColoursFromGrey(grey, wide, kColour); }), "dst.format == 3");
-  EXPECT_EQ(grey.data, std::vector<unsigned char>(12, 0));
 }
 
 TEST(Conversions, BitmapToImageFormats) {
-  BitmapA rgba = Filled(2, 1, {10, 20, 30, 0});
-  rgba.Pixel(1, 0)[0] = 99;
   wxImage image;
-  ASSERT_TRUE(ConvertTo(image, rgba));
+  ASSERT_TRUE(ConvertTo(image, BitmapA{2, 1, 3, {10, 20, 30, 0, 99, 98, 97, 255}}));
   EXPECT_EQ(image.GetWidth(), 2);
-  EXPECT_EQ(image.GetRed(0, 0), 10);
-  EXPECT_EQ(image.GetBlue(0, 0), 30);
-  EXPECT_EQ(image.GetRed(1, 0), 99);
+  EXPECT_EQ(RgbOf(image, 0, 0), wxColour(10, 20, 30));
+  EXPECT_EQ(RgbOf(image, 1, 0), wxColour(99, 98, 97));
   EXPECT_FALSE(image.HasAlpha());
+  ASSERT_TRUE(ConvertTo(image, BitmapA{2, 2, 1, {7, 0, 8, 1, 9, 2, 250, 3}}));
+  EXPECT_EQ(RgbOf(image, 0, 1), wxColour(9, 9, 9));
+  EXPECT_EQ(RgbOf(image, 1, 1), wxColour(250, 250, 250));
+  ASSERT_TRUE(ConvertTo(image, Bitmap{1, 2, 3, {1, 2, 3, 4, 5, 6}}));
+  EXPECT_EQ(RgbOf(image, 0, 1), wxColour(4, 5, 6));
+  ASSERT_TRUE(ConvertTo(image, Bitmap{3, 1, 1, {0, 128, 255}}));
+  EXPECT_EQ(RgbOf(image, 1, 0), wxColour(128, 128, 128));
+  EXPECT_EQ(RgbOf(image, 2, 0), wxColour(255, 255, 255));
 
-  BitmapA greyAlpha;
-  greyAlpha.width = 2;
-  greyAlpha.height = 2;
-  greyAlpha.format = 1;
-  greyAlpha.data = {7, 0, 8, 1, 9, 2, 250, 3};
-  ASSERT_TRUE(ConvertTo(image, greyAlpha));
-  EXPECT_EQ(image.GetHeight(), 2);
-  EXPECT_EQ(wxColour(image.GetRed(1, 1), image.GetGreen(1, 1), image.GetBlue(1, 1)),
-            wxColour(250, 250, 250));
-  EXPECT_EQ(image.GetGreen(0, 1), 9);
-
-  Bitmap rgb;
-  rgb.width = 1;
-  rgb.height = 2;
-  rgb.format = 3;
-  rgb.data = {1, 2, 3, 4, 5, 6};
-  ASSERT_TRUE(ConvertTo(image, rgb));
-  EXPECT_EQ(image.GetBlue(0, 1), 6);
-  Bitmap grey;
-  grey.width = 3;
-  grey.height = 1;
-  grey.format = 1;
-  grey.data = {0, 128, 255};
-  ASSERT_TRUE(ConvertTo(image, grey));
-  EXPECT_EQ(image.GetRed(1, 0), 128);
-  EXPECT_EQ(image.GetBlue(2, 0), 255);
-
-  rgb.format = 2;
-  EXPECT_EQ(FiredAssertion([&] { ConvertTo(image, rgb); }), "src.format == 3 || src.format == 1");
-  greyAlpha.format = 4;
-  EXPECT_EQ(FiredAssertion([&] { ConvertTo(image, greyAlpha); }),
+  EXPECT_EQ(FiredAssertion([&] {
+              ConvertTo(image, Bitmap{1, 1, 2, {1, 2}});
+            }),
+            "src.format == 3 || src.format == 1");
+  EXPECT_EQ(FiredAssertion([&] {
+              ConvertTo(image, BitmapA{1, 1, 4, {1, 2, 3, 4}});
+            }),
             "src.format == 3 || src.format == 1");
 }
 
@@ -167,50 +132,37 @@ TEST(Conversions, ImageToBitmap) {
   EXPECT_EQ(rgba.width, 0);
 }
 
-TEST(Conversions, BlitComposesOntoACopyOfTheBase) {
+TEST(Conversions, BlitCopyAndClear) {
   BitmapA base = Filled(3, 3, {255, 0, 0, 255});
   BitmapA top = Filled(1, 1, {0, 0, 255, 255});
   wxImage out;
   ASSERT_TRUE(BlitwxImage(out, base, top, 2, 1));
-  EXPECT_EQ(wxColour(out.GetRed(2, 1), out.GetGreen(2, 1), out.GetBlue(2, 1)), *wxBLUE);
-  EXPECT_EQ(wxColour(out.GetRed(1, 1), out.GetGreen(1, 1), out.GetBlue(1, 1)), *wxRED);
+  EXPECT_EQ(RgbOf(out, 2, 1), *wxBLUE);
+  EXPECT_EQ(RgbOf(out, 1, 1), *wxRED);
   EXPECT_EQ(base.Pixel(2, 1)[0], 255);  // the base itself is untouched
-}
 
-TEST(Conversions, CopySharesImageData) {
-  wxImage src(4, 4);
-  wxImage dst(1, 1);
-  ASSERT_TRUE(Copy(dst, src));
-  EXPECT_TRUE(dst.IsSameAs(src));
-  ASSERT_TRUE(Copy(dst, dst));
-  EXPECT_TRUE(dst.IsSameAs(src));
+  wxImage shared(1, 1);
+  ASSERT_TRUE(Copy(shared, out));
+  EXPECT_TRUE(shared.IsSameAs(out));
+  ASSERT_TRUE(Copy(shared, shared));
+  EXPECT_TRUE(shared.IsSameAs(out));
+
+  Color c(0.5, 1.0, 0.999);
+  ASSERT_TRUE(ClearwxImage(out, c));
+  for (int y = 0; y < 3; ++y)
+    for (int x = 0; x < 3; ++x) EXPECT_EQ(RgbOf(out, x, y), wxColour(127, 255, 254));
+  wxImage empty;
+  EXPECT_NE(FiredAssertion([&] { ClearwxImage(empty, c); }), "");
 }
 
 TEST(Conversions, ColoursTruncate) {
   EXPECT_EQ(CtoWxC(Color(1.0, 0.999, 0.5)), wxColour(255, 254, 127));
   EXPECT_EQ(CtoWxC(Color(-0.2, 1.5, 0.0)), wxColour(0, 255, 0));
   EXPECT_EQ(CAtoWxC(ColorA(0.2, 0.4, 0.6, 0.0)), wxColour(51, 102, 153));
-  const Color c = WxCtoC(wxColour(255, 128, 0));
-  EXPECT_DOUBLE_EQ(c.r, 1.0);
-  EXPECT_DOUBLE_EQ(c.g, 128 / 255.0);
-  EXPECT_DOUBLE_EQ(c.b, 0.0);
-  const ColorA ca = WxCtoCA(wxColour(3, 2, 1));
-  EXPECT_DOUBLE_EQ(ca.a, 1.0);
-  EXPECT_DOUBLE_EQ(ca.r, 3 / 255.0);
+  EXPECT_EQ(WxCtoC(wxColour(255, 128, 0)), Color(1.0, 128 / 255.0, 0.0));
+  EXPECT_EQ(WxCtoCA(wxColour(3, 2, 1)), ColorA(3 / 255.0, 2 / 255.0, 1 / 255.0, 1.0));
   for (int v = 0; v < 256; ++v)  // the round trip is lossless
     ASSERT_EQ(CtoWxC(WxCtoC(wxColour(v, v, v))), wxColour(v, v, v)) << v;
-}
-
-TEST(Conversions, ClearwxImage) {
-  wxImage image(3, 2);
-  Color c(0.5, 1.0, 0.999);
-  ASSERT_TRUE(ClearwxImage(image, c));
-  for (int y = 0; y < 2; ++y)
-    for (int x = 0; x < 3; ++x)
-      EXPECT_EQ(wxColour(image.GetRed(x, y), image.GetGreen(x, y), image.GetBlue(x, y)),
-                wxColour(127, 255, 254));
-  wxImage empty;
-  EXPECT_NE(FiredAssertion([&] { ClearwxImage(empty, c); }), "");
 }
 
 TEST(ImageFilter, RoundsHalfUpAndBlends) {
@@ -220,16 +172,13 @@ TEST(ImageFilter, RoundsHalfUpAndBlends) {
   EXPECT_EQ(f.GetWidth(), 2);
   ColorA c(0.5, 127.49 / 255, 1.0, 0.0);
   ASSERT_TRUE(f.WritePixel(0, 0, c));
-  EXPECT_EQ(wxColour(image.GetRed(0, 0), image.GetGreen(0, 0), image.GetBlue(0, 0)),
-            wxColour(128, 127, 255));
+  EXPECT_EQ(RgbOf(image, 0, 0), wxColour(128, 127, 255));
   ColorA white(1.0, 1.0, 0.0);
   ASSERT_TRUE(f.WritePixelI(1, 1, white, 0.5));  // 127.5 + old/2 + 0.5
-  EXPECT_EQ(wxColour(image.GetRed(1, 1), image.GetGreen(1, 1), image.GetBlue(1, 1)),
-            wxColour(178, 128, 128));
+  EXPECT_EQ(RgbOf(image, 1, 1), wxColour(178, 128, 128));
   ColorA read;
   ASSERT_TRUE(f.ReadPixel(read, 1, 1));
-  EXPECT_DOUBLE_EQ(read.r, 178 / 255.0);
-  EXPECT_DOUBLE_EQ(read.a, 1.0);
+  EXPECT_EQ(read, ColorA(178 / 255.0, 128 / 255.0, 128 / 255.0, 1.0));
   for (auto [x, y] : {std::pair{-1, 0}, {2, 0}, {0, 2}, {0, -1}}) {
     EXPECT_FALSE(f.WritePixel(x, y, c));
     EXPECT_FALSE(f.WritePixelI(x, y, c, 1.0));
@@ -242,3 +191,5 @@ TEST(ImageFilter, RoundsHalfUpAndBlends) {
   EXPECT_EQ(image.GetRed(4, 2), 0);
   EXPECT_FALSE(f.Create(0, 3));
 }
+
+}  // namespace

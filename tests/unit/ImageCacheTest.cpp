@@ -13,9 +13,7 @@ namespace {
 struct Counted {
   static int alive;
   static int destroyed;
-  int width;
-  int height;
-  int tag;
+  int width, height, tag;
   Counted(int w, int h, int t = 0) : width(w), height(h), tag(t) { ++alive; }
   ~Counted() {
     --alive;
@@ -25,17 +23,17 @@ struct Counted {
 int Counted::alive = 0;
 int Counted::destroyed = 0;
 
-class CountedCache : public VornImageCache<Counted> {
+template <class Base>
+class Sized : public Base {
  public:
   int GetImageWidth(const Counted* image) const override { return image->width; }
   int GetImageHeight(const Counted* image) const override { return image->height; }
 };
+using CountedCache = Sized<VornImageCache<Counted>>;
 
 // Images cut out of a "sheet" remember the rectangle they came from.
-class CountedWallpaperCache : public VornWallpaperImageCache<Counted> {
+class CountedWallpaperCache : public Sized<VornWallpaperImageCache<Counted>> {
  public:
-  int GetImageWidth(const Counted* image) const override { return image->width; }
-  int GetImageHeight(const Counted* image) const override { return image->height; }
   std::unique_ptr<Counted> MakeImageFromWallpaper(WallpaperImageInfo<Counted> info) const override {
     ++cuts;
     return std::make_unique<Counted>(info.width, info.height, info.x * 1000 + info.y);
@@ -45,10 +43,7 @@ class CountedWallpaperCache : public VornWallpaperImageCache<Counted> {
 
 class CountingTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    Counted::alive = 0;
-    Counted::destroyed = 0;
-  }
+  void SetUp() override { Counted::alive = Counted::destroyed = 0; }
 };
 
 std::vector<WallpaperImageInfo<Counted>> InfoList(const Counted* sheet, std::vector<int> states) {
@@ -56,35 +51,42 @@ std::vector<WallpaperImageInfo<Counted>> InfoList(const Counted* sheet, std::vec
   for (int s : states) list[s] = WallpaperImageInfo<Counted>{s * 10, s, 20 + s, 8 + s, sheet};
   return list;
 }
-}  // namespace
 
-TEST_F(CountingTest, EmptyCacheHasNoStatesAndNoSize) {
-  CountedCache cache;
-  std::vector<VORNIMAGETYPE> states = {VIT_SPARE};
+template <class Cache>
+std::vector<VORNIMAGETYPE> States(const Cache& cache, std::vector<VORNIMAGETYPE> states = {}) {
   EXPECT_TRUE(cache.GetStates(states));
-  EXPECT_EQ(states, std::vector<VORNIMAGETYPE>{VIT_SPARE});  // appended to, not cleared
-  EXPECT_EQ(cache.GetWidth(), -1);
-  EXPECT_EQ(cache.GetHeight(), -1);
+  return states;
+}
+
+TEST_F(CountingTest, EmptyCacheThenOnlyMouseOver) {
+  CountedCache cache;
+  EXPECT_EQ(States(cache, {VIT_SPARE}), std::vector<VORNIMAGETYPE>{VIT_SPARE});  // appended to
   int w = 0, h = 0;
   EXPECT_FALSE(cache.GetSize(w, h));
   EXPECT_EQ(w, -1);
+  EXPECT_EQ(h, -1);
   const Counted* out = reinterpret_cast<const Counted*>(&w);
   EXPECT_FALSE(cache.GetImage(VIT_OFF, out));
   EXPECT_EQ(out, nullptr);
-}
 
-TEST_F(CountingTest, SizeComesFromLowestFilledState) {
-  CountedCache cache;
-  Counted mouseOver(30, 12), down(50, 40);
-  cache.AssignImage(VIT_ON_DOWN, &down);
+  // Size comes from the lowest filled state; the fallback chain finds substitutes.
+  Counted mouseOver(30, 12), down(50, 40), spare(1, 1);
+  cache.AssignImage(VIT_OFF_DOWN, &down);
   cache.AssignImage(VIT_ON_MOUSE_OVER, &mouseOver);
-  int w = 0, h = 0;
   EXPECT_TRUE(cache.GetSize(w, h));
   EXPECT_EQ(w, 30);
   EXPECT_EQ(h, 12);
-  std::vector<VORNIMAGETYPE> states;
-  cache.GetStates(states);
-  EXPECT_EQ(states, (std::vector<VORNIMAGETYPE>{VIT_ON_MOUSE_OVER, VIT_ON_DOWN}));
+  EXPECT_EQ(States(cache), (std::vector<VORNIMAGETYPE>{VIT_ON_MOUSE_OVER, VIT_OFF_DOWN}));
+  EXPECT_TRUE(VornGetImageWithFallback(cache, VIT_ON_DOWN, out));
+  EXPECT_EQ(out, &mouseOver);
+  for (VORNIMAGETYPE none : {VIT_ON, VIT_OFF, VIT_OFF_MOUSE_OVER, VIT_NONE}) {
+    EXPECT_FALSE(VornGetImageWithFallback(cache, none, out)) << none;
+    EXPECT_EQ(out, nullptr);
+  }
+  EXPECT_NE(FiredAssertion([&] { VornGetImageWithFallback(cache, VIT_SPARE, out); }), "");
+  cache.AssignImage(VIT_SPARE, &spare);
+  EXPECT_TRUE(VornGetImageWithFallback(cache, VIT_SPARE, out));
+  EXPECT_EQ(out, &spare);
 }
 
 TEST_F(CountingTest, ClearDeletesOwnedImagesOnceAndNeverBorrowedOnes) {
@@ -94,83 +96,46 @@ TEST_F(CountingTest, ClearDeletesOwnedImagesOnceAndNeverBorrowedOnes) {
     EXPECT_TRUE(cache.AssignImage(VIT_OFF, &borrowed));
     EXPECT_TRUE(cache.AssignImageOwn(VIT_ON, new Counted(4, 4)));
     EXPECT_TRUE(cache.AssignImageOwn(VIT_ON_DOWN, new Counted(4, 4)));
+    // A filled slot refuses another image and keeps its own.
+    EXPECT_EQ(FiredAssertion([&] { cache.AssignImage(VIT_OFF, &borrowed); }),
+              "m_images[index].pVal == __null");
+    EXPECT_EQ(FiredAssertion([&] { cache.AssignImage(VIT_ON, &borrowed); }),
+              "m_images[index].bOwn == false");
     EXPECT_EQ(Counted::alive, 3);
     EXPECT_TRUE(cache.Clear());
     EXPECT_EQ(Counted::destroyed, 2);
-    std::vector<VORNIMAGETYPE> states;
-    cache.GetStates(states);
-    EXPECT_TRUE(states.empty());
+    EXPECT_TRUE(States(cache).empty());
     // Slots are free again and a later owned image dies with the cache.
     EXPECT_TRUE(cache.AssignImage(VIT_ON, &borrowed));
     EXPECT_TRUE(cache.AssignImageOwn(VIT_OFF, new Counted(1, 1)));
   }
   EXPECT_EQ(Counted::destroyed, 3);
   EXPECT_EQ(Counted::alive, 1);  // the borrowed one
-  EXPECT_EQ(borrowed.width, 4);
 }
 
-TEST_F(CountingTest, AssigningIntoAFilledSlotIsAnError) {
-  CountedCache cache;
-  Counted a(1, 1), b(1, 1);
-  cache.AssignImage(VIT_OFF, &a);
-  cache.AssignImageOwn(VIT_ON, new Counted(1, 1));
-  EXPECT_EQ(FiredAssertion([&] { cache.AssignImage(VIT_OFF, &b); }),
-            "m_images[index].pVal == __null");
-  EXPECT_EQ(FiredAssertion([&] { cache.AssignImage(VIT_ON, &b); }),
-            "m_images[index].bOwn == false");
-  const Counted* out = nullptr;
-  ASSERT_TRUE(cache.GetImage(VIT_OFF, out));
-  EXPECT_EQ(out, &a);
-}
-
-TEST(ImageStates, FallbackChain) {
+TEST(ImageStates, FallbackChainAndTokens) {
   const struct {
     VORNIMAGETYPE asked, next;
+    const char* token;
   } chain[] = {
-      {VIT_OFF, VIT_NONE},
-      {VIT_ON, VIT_NONE},
-      {VIT_ON_MOUSE_OVER, VIT_ON},
-      {VIT_OFF_MOUSE_OVER, VIT_OFF},
-      {VIT_DISABLED_ON, VIT_ON},
-      {VIT_DISABLED_OFF, VIT_OFF},
-      {VIT_ON_DOWN, VIT_ON_MOUSE_OVER},
-      {VIT_OFF_DOWN, VIT_OFF_MOUSE_OVER},
+      {VIT_OFF, VIT_NONE, "off"},
+      {VIT_ON, VIT_NONE, "on"},
+      {VIT_ON_MOUSE_OVER, VIT_ON, "on_mouse_over"},
+      {VIT_OFF_MOUSE_OVER, VIT_OFF, "off_mouse_over"},
+      {VIT_DISABLED_ON, VIT_ON, "disabled_on"},
+      {VIT_DISABLED_OFF, VIT_OFF, "disabled_off"},
+      {VIT_ON_DOWN, VIT_ON_MOUSE_OVER, "on_down"},
+      {VIT_OFF_DOWN, VIT_OFF_MOUSE_OVER, "off_down"},
   };
-  for (const auto& step : chain)
+  for (const auto& step : chain) {
     EXPECT_EQ(VornNextFallbackState(step.asked), step.next) << step.asked;
+    VORNIMAGETYPE state = VIT_NONE;
+    ASSERT_TRUE(VornImageStateFromToken(step.token, state)) << step.token;
+    EXPECT_EQ(state, step.asked);
+    EXPECT_STREQ(VornImageStateToken(state), step.token);
+  }
   EXPECT_NE(FiredAssertion([] { VornNextFallbackState(VIT_NONE); }), "");
   EXPECT_NE(FiredAssertion([] { VornNextFallbackState(VIT_SPARE); }), "");
-}
-
-TEST_F(CountingTest, FallbackFindsTheNearestSubstitute) {
-  CountedCache cache;
-  Counted mouseOver(7, 7);
-  cache.AssignImage(VIT_ON_MOUSE_OVER, &mouseOver);
-  const Counted* out = nullptr;
-  EXPECT_TRUE(VornGetImageWithFallback(cache, VIT_ON_DOWN, out));
-  EXPECT_EQ(out, &mouseOver);
-  EXPECT_FALSE(VornGetImageWithFallback(cache, VIT_ON, out));
-  EXPECT_EQ(out, nullptr);
-  EXPECT_FALSE(VornGetImageWithFallback(cache, VIT_OFF, out));
-  EXPECT_FALSE(VornGetImageWithFallback(cache, VIT_OFF_DOWN, out));
-  EXPECT_FALSE(VornGetImageWithFallback(cache, VIT_NONE, out));
-
-  Counted spare(1, 1);
-  EXPECT_NE(FiredAssertion([&] { VornGetImageWithFallback(cache, VIT_SPARE, out); }), "");
-  cache.AssignImage(VIT_SPARE, &spare);
-  EXPECT_TRUE(VornGetImageWithFallback(cache, VIT_SPARE, out));
-  EXPECT_EQ(out, &spare);
-}
-
-TEST(ImageStates, TokensRoundTrip) {
-  const char* words[] = {"off",         "on",           "on_mouse_over", "off_mouse_over",
-                         "disabled_on", "disabled_off", "on_down",       "off_down"};
-  for (int i = 0; i < 8; ++i) {
-    VORNIMAGETYPE state = VIT_NONE;
-    ASSERT_TRUE(VornImageStateFromToken(words[i], state)) << words[i];
-    EXPECT_EQ(state, static_cast<VORNIMAGETYPE>(VIT_OFF + i));
-    EXPECT_STREQ(VornImageStateToken(state), words[i]);
-  }
   VORNIMAGETYPE state = VIT_ON;
   for (const char* bad : {"", "none", "spare", "Off", "on_down ", "mouse_over"})
     EXPECT_FALSE(VornImageStateFromToken(bad, state)) << bad;
@@ -180,57 +145,54 @@ TEST(ImageStates, TokensRoundTrip) {
 }
 
 TEST(ImageCaches, HostBitmapSizesAndNullPointers) {
-  Bitmap rgb;
-  rgb.width = 12;
-  rgb.height = 5;
-  BitmapA rgba;
-  rgba.width = 3;
-  rgba.height = 9;
+  Bitmap rgb{12, 5, 3, {}};
+  BitmapA rgba{3, 9, 3, {}};
   VornBitmapCache bitmaps;
   VornBitmapACache bitmapsA;
   bitmaps.AssignImage(VIT_ON, &rgb);
   bitmapsA.AssignImage(VIT_OFF_DOWN, &rgba);
-  EXPECT_EQ(bitmaps.GetWidth(), 12);
-  EXPECT_EQ(bitmaps.GetHeight(), 5);
-  EXPECT_EQ(bitmapsA.GetWidth(), 3);
-  EXPECT_EQ(bitmapsA.GetHeight(), 9);
-  EXPECT_EQ(FiredAssertion([&] { bitmaps.GetImageWidth(nullptr); }), "image != nullptr");
-  EXPECT_EQ(FiredAssertion([&] { bitmapsA.GetImageHeight(nullptr); }), "image != nullptr");
+  int w = 0, h = 0;
+  EXPECT_TRUE(bitmaps.GetSize(w, h));
+  EXPECT_EQ(std::pair(w, h), std::pair(12, 5));
+  EXPECT_TRUE(bitmapsA.GetSize(w, h));
+  EXPECT_EQ(std::pair(w, h), std::pair(3, 9));
   VornwxImageCache images;
-  EXPECT_EQ(FiredAssertion([&] { images.GetImageWidth(nullptr); }), "image != nullptr");
   VornGLTextureCache textures;
-  EXPECT_EQ(FiredAssertion([&] { textures.GetImageHeight(nullptr); }), "image != nullptr");
+  for (const std::string& fired : {FiredAssertion([&] { bitmaps.GetImageWidth(nullptr); }),
+                                   FiredAssertion([&] { bitmapsA.GetImageHeight(nullptr); }),
+                                   FiredAssertion([&] { images.GetImageWidth(nullptr); }),
+                                   FiredAssertion([&] { textures.GetImageHeight(nullptr); })})
+    EXPECT_EQ(fired, "image != nullptr");
 }
 
 TEST_F(CountingTest, WallpaperCacheCutsEachStateOutOnceAndOwnsIt) {
   Counted sheet(1000, 1000);
   {
     CountedWallpaperCache cache;
-    cache.SetWallpaperInfo(InfoList(&sheet, {VIT_ON, VIT_OFF_DOWN}));
+    cache.SetWallpaperInfo(InfoList(&sheet, {VIT_ON_MOUSE_OVER, VIT_OFF_DOWN}));
+    EXPECT_EQ(cache.GetWidth(), 24);  // from the sheet entries, lowest state first
+    EXPECT_EQ(cache.GetHeight(), 12);
     Counted own(5, 6);
-    cache.AssignImage(VIT_OFF, &own);
+    cache.AssignImage(VIT_OFF_DOWN, &own);
+    EXPECT_EQ(cache.GetWidth(), 5);  // a slot image wins even in a later state
+    EXPECT_EQ(States(cache, {VIT_ON_DOWN, VIT_OFF}),
+              (std::vector<VORNIMAGETYPE>{VIT_OFF, VIT_ON_MOUSE_OVER, VIT_ON_DOWN, VIT_OFF_DOWN}));
+    EXPECT_EQ(cache.cuts, 0);
 
-    std::vector<VORNIMAGETYPE> states = {VIT_ON_DOWN, VIT_ON};
-    cache.GetStates(states);
-    EXPECT_EQ(states, (std::vector<VORNIMAGETYPE>{VIT_OFF, VIT_ON, VIT_ON_DOWN, VIT_OFF_DOWN}));
-
-    const Counted* first = nullptr;
-    ASSERT_TRUE(cache.GetImage(VIT_ON, first));
-    EXPECT_EQ(first->width, 23);
-    EXPECT_EQ(first->height, 11);
-    EXPECT_EQ(first->tag, 30 * 1000 + 3);
-    const Counted* again = nullptr;
-    ASSERT_TRUE(cache.GetImage(VIT_ON, again));
+    const Counted *first = nullptr, *again = nullptr;
+    ASSERT_TRUE(cache.GetImage(VIT_ON_MOUSE_OVER, first));
+    EXPECT_EQ(first->width, 24);
+    EXPECT_EQ(first->height, 12);
+    EXPECT_EQ(first->tag, 40 * 1000 + 4);
+    ASSERT_TRUE(cache.GetImage(VIT_ON_MOUSE_OVER, again));
     EXPECT_EQ(first, again);
     EXPECT_EQ(cache.cuts, 1);
-
-    const Counted* none = &sheet;
-    EXPECT_FALSE(cache.GetImage(VIT_ON_MOUSE_OVER, none));
-    EXPECT_EQ(none, nullptr);
+    EXPECT_FALSE(cache.GetImage(VIT_ON, again));
+    EXPECT_EQ(again, nullptr);
 
     // A slot image is its own sheet.
     WallpaperImageInfo<Counted> info;
-    ASSERT_TRUE(cache.GetImageFromWallpaper(VIT_OFF, info));
+    ASSERT_TRUE(cache.GetImageFromWallpaper(VIT_OFF_DOWN, info));
     EXPECT_EQ(info.bitmap, &own);
     EXPECT_EQ(info.width, 5);
     EXPECT_EQ(info.x, 0);
@@ -245,23 +207,14 @@ TEST_F(CountingTest, WallpaperCacheCutsEachStateOutOnceAndOwnsIt) {
     EXPECT_EQ(Counted::alive, 2);
     EXPECT_TRUE(cache.GetWallpaperInfo().empty());
     EXPECT_EQ(cache.GetWidth(), -1);
-    // Wallpaper entries may be set again after Clear; the cache dies owning a cut-out.
-    cache.SetWallpaperInfo(InfoList(&sheet, {VIT_OFF_DOWN}));
-    ASSERT_TRUE(cache.GetImage(VIT_OFF_DOWN, first));
+    // A short list is read only within its entries; the cache dies owning a cut-out.
+    auto list = InfoList(&sheet, {VIT_SPARE, VIT_OFF_DOWN});
+    list.resize(3);
+    cache.SetWallpaperInfo(list);
+    EXPECT_FALSE(cache.GetImage(VIT_OFF_DOWN, first));
+    ASSERT_TRUE(cache.GetImage(VIT_SPARE, first));
   }
   EXPECT_EQ(Counted::alive, 1);
-}
-
-TEST_F(CountingTest, WallpaperCacheSizeFallsBackToSheetEntries) {
-  Counted sheet(1000, 1000);
-  CountedWallpaperCache cache;
-  cache.SetWallpaperInfo(InfoList(&sheet, {VIT_ON_DOWN, VIT_ON_MOUSE_OVER}));
-  EXPECT_EQ(cache.GetWidth(), 24);  // entry 4 comes before entry 8
-  EXPECT_EQ(cache.GetHeight(), 12);
-  Counted slot(3, 2);
-  cache.AssignImage(VIT_OFF_DOWN, &slot);
-  EXPECT_EQ(cache.GetWidth(), 3);  // a slot image wins even in a later state
-  EXPECT_EQ(cache.cuts, 0);
 }
 
 TEST(TextureSize, RoundsUpToPowersOfTwo) {
@@ -271,13 +224,4 @@ TEST(TextureSize, RoundsUpToPowersOfTwo) {
   for (const auto& c : cases) EXPECT_EQ(VornTextureSize(c[0]), c[1]) << c[0];
 }
 
-TEST_F(CountingTest, ShortWallpaperListIsReadOnlyWithinItsEntries) {
-  Counted sheet(1000, 1000);
-  CountedWallpaperCache cache;
-  std::vector<WallpaperImageInfo<Counted>> list = InfoList(&sheet, {VIT_SPARE});
-  list.resize(3);
-  cache.SetWallpaperInfo(list);
-  const Counted* out = nullptr;
-  EXPECT_FALSE(cache.GetImage(VIT_OFF_DOWN, out));
-  EXPECT_TRUE(cache.GetImage(VIT_SPARE, out));
-}
+}  // namespace
