@@ -94,16 +94,12 @@ TEST(HostPng, RgbAndRgbaRoundTrip) {
 
   BitmapA rgba;
   Create(rgba, 2, 2, 3);
-  rgba.data = {255, 0, 0, 255, 10, 200, 30, 128, 1, 2, 3, 0, 90, 80, 70, 1};
+  rgba.data = {255, 0, 0, 255, 10, 200, 30, 128, 0, 0, 0, 0, 90, 80, 70, 1};
   ASSERT_TRUE(SaveBitmapAEncode(rgba, png));
   BitmapA backA;
-  ASSERT_TRUE(Decode(png, backA));
-  EXPECT_EQ(backA.data[0], 255);
-  EXPECT_EQ(Bytes(backA, 1, 0), (Px{10, 200, 30, 128}));
-  EXPECT_EQ(backA.data[11], 0);
-  EXPECT_EQ(backA.data[15], 1);
   Bitmap dropped;  // alpha dropped, colour kept
-  ASSERT_TRUE(Decode(png, dropped));
+  ASSERT_TRUE(Decode(png, backA) && Decode(png, dropped));
+  EXPECT_EQ(backA.data, rgba.data);
   EXPECT_EQ(Bytes(dropped, 1, 0), (Px{10, 200, 30}));
 
   Bitmap grey;
