@@ -1,6 +1,7 @@
 // Archive reading, its refusals of broken archives, discovery of the
 // archives of a set, and the round trip through the archive writer.
 #include <algorithm>
+#include <array>
 #include <filesystem>
 
 #include "AssetTestUtil.h"
@@ -34,24 +35,48 @@ std::string Bytes(Asset* a) {
   return std::string(reinterpret_cast<char*>(a->GetDataPtr()), a->GetSize());
 }
 
-TEST(ArchiveAsset, EntriesServeBytesFromTheBufferWithoutOpen) {
+TEST(ArchiveAsset, EntriesServeBytesWithoutOpenAndLinesOutsideTheBlockAreSkipped) {
   TempDir dir;
-  const std::string path = dir.Write("a.vrk", RawArchive(110, Hundred() + "x\r\ny\rz",
-                                                         "icon.png NONE NONE NONE 4 104\n"
-                                                         "Title.TXT Generic English NONE 104 110\n"
-                                                         "empty.txt Linux english UK 50 50"));
+  const std::string path =
+      dir.Write("a.vrk", RawArchive(110, Hundred() + "x\r\ny\rz",
+                                    "icon.png NONE NONE NONE 4 104\n"
+                                    "Title.TXT Generic English NONE 104 110\n"
+                                    "empty.txt Linux english UK 50 50\n"
+                                    "before NONE NONE NONE 0 10\n"
+                                    "past NONE NONE NONE 50 111\n"
+                                    "reversed NONE NONE NONE 20 10\n"
+                                    "negative NONE NONE NONE -4 10\n"
+                                    "overflow NONE NONE NONE 4 99999999999999999999999\n"
+                                    "\n"
+                                    "five NONE NONE NONE 4\n"
+                                    "letters NONE NONE NONE 4 1x\n"
+                                    "plus NONE NONE NONE +4 10\n"
+                                    "ok NONE NONE NONE 100 104 extra words"));
   AssetManager m;
   m.SetAssetLoader(new ArchiveAssetLoader(path.c_str()));
   CaptureDprintf debug;
+  CaptureWarnings warnings;
   ASSERT_TRUE(m.LoadAssets());
   EXPECT_TRUE(debug.Contains(path + "\n"));
-  EXPECT_EQ(m.GetNumAssets(), 3u);
-  Asset *icon = nullptr, *title = nullptr, *empty = nullptr;
+  EXPECT_EQ(m.GetNumAssets(), 4u);
+  const char* refused[] = {"before", "past", "reversed", "negative", "overflow"};
+  ASSERT_EQ(warnings.Warnings().size(), 5u);
+  for (std::size_t i = 0; i < 5; ++i) {
+    const auto& w = warnings.Warnings()[i];
+    EXPECT_EQ(w.title, "ArchiveAsset Error");
+    EXPECT_EQ(w.text.find(std::string("Entry [") + refused[i] + "] on line " +
+                          std::to_string(i + 4) + " of archive [" + path + "]"),
+              0u)
+        << w.text;
+  }
+  Asset *icon = nullptr, *title = nullptr, *empty = nullptr, *ok = nullptr;
   m.SetPlatform("Mac");
   m.SetLanguage("german", "");
   ASSERT_TRUE(m.GetAsset("ICON.PNG", icon));
   EXPECT_EQ(Identity(icon), "//");
   EXPECT_EQ(Bytes(icon), Hundred());
+  ASSERT_TRUE(m.GetAsset("ok", ok));
+  EXPECT_EQ(Bytes(ok), "\x60\x61\x62\x63");
   m.SetLanguage("english", "");
   ASSERT_TRUE(m.GetAsset("title.txt", title));
   EXPECT_EQ(title->name, "title.txt");
@@ -114,41 +139,6 @@ TEST(ArchiveAsset, BrokenArchivesAreRefusedByOpen) {
   EXPECT_FALSE(unnamed.Open());
   AssetManager m;
   EXPECT_FALSE(unnamed.LoadResources(m));  // never opened
-}
-
-TEST(ArchiveAsset, DirectoryLinesOutsideTheDataBlockAreSkippedWithAWarning) {
-  TempDir dir;
-  const std::string path =
-      dir.Write("a.vrk", RawArchive(104, Hundred(),
-                                    "ok1 NONE NONE NONE 4 14\n"
-                                    "before NONE NONE NONE 0 10\n"
-                                    "past NONE NONE NONE 50 105\n"
-                                    "reversed NONE NONE NONE 20 10\n"
-                                    "negative NONE NONE NONE -4 10\n"
-                                    "overflow NONE NONE NONE 4 99999999999999999999999\n"
-                                    "\n"
-                                    "five NONE NONE NONE 4\n"
-                                    "letters NONE NONE NONE 4 1x\n"
-                                    "plus NONE NONE NONE +4 10\n"
-                                    "ok2 NONE NONE NONE 100 104 extra words\n"));
-  AssetManager m;
-  m.SetAssetLoader(new ArchiveAssetLoader(path.c_str()));
-  CaptureWarnings warnings;
-  EXPECT_TRUE(m.LoadAssets());
-  EXPECT_EQ(m.GetNumAssets(), 2u);
-  const char* refused[] = {"before", "past", "reversed", "negative", "overflow"};
-  ASSERT_EQ(warnings.Warnings().size(), 5u);
-  for (std::size_t i = 0; i < 5; ++i) {
-    const auto& w = warnings.Warnings()[i];
-    EXPECT_EQ(w.title, "ArchiveAsset Error");
-    EXPECT_EQ(w.text.find(std::string("Entry [") + refused[i] + "] on line " +
-                          std::to_string(i + 2) + " of archive [" + path + "]"),
-              0u)
-        << w.text;
-  }
-  Asset* ok = nullptr;
-  ASSERT_TRUE(m.GetAsset("ok2", ok));
-  EXPECT_EQ(Bytes(ok), "\x60\x61\x62\x63");
 }
 
 TEST(ArchiveDiscovery, ArchivesOfASetOrderedByNumber) {
