@@ -202,8 +202,8 @@ class RoundTripTest : public testing::Test {
   std::string m_error;
 };
 
-TEST_F(RoundTripTest, PackedTreeLoadsLikeTheTreeAndExtractsToIt) {
-  std::vector<VornArchiveEntry> entries, read;
+TEST_F(RoundTripTest, PackedTreeLoadsLikeTheTree) {
+  std::vector<VornArchiveEntry> entries;
   std::vector<std::string> ignored;
   ASSERT_TRUE(VornCollectAssetTree(m_tree.Path(), "Linux", entries, m_error, &ignored)) << m_error;
   EXPECT_EQ(ignored, std::vector<std::string>{m_tree.Path() + "Linux/english/uk/deeper/"});
@@ -218,21 +218,6 @@ TEST_F(RoundTripTest, PackedTreeLoadsLikeTheTreeAndExtractsToIt) {
   EXPECT_EQ(fromArchive.GetNumAssets(), 10u);
   EXPECT_EQ(Variants(fromArchive), Variants(fromTree));
   EXPECT_EQ(Variants(fromTree).size(), 10u);
-
-  ASSERT_TRUE(VornReadArchive(m_out.Path() + "data1.vrk", read, m_error)) << m_error;
-  ASSERT_EQ(read.size(), entries.size());
-  const std::string target = m_out.Path() + "tree/";
-  ASSERT_TRUE(VornExtractArchive(read, target, m_error)) << m_error;
-  std::vector<std::string> files;
-  for (const auto& e : fs::recursive_directory_iterator(target))
-    if (e.is_regular_file()) {
-      files.push_back(e.path().string().substr(target.size()));
-      EXPECT_EQ(ReadFileBytes(e.path().string()), ReadFileBytes(m_tree.Path() + files.back()));
-    }
-  std::sort(files.begin(), files.end());
-  EXPECT_EQ(files.size(), 10u);
-  EXPECT_TRUE(std::binary_search(files.begin(), files.end(), "Linux/english/uk/Only.TXT"));
-  EXPECT_TRUE(std::binary_search(files.begin(), files.end(), "README"));
 }
 
 TEST_F(RoundTripTest, HigherNumberedArchiveOverridesVariantByVariant) {
@@ -258,18 +243,15 @@ TEST_F(RoundTripTest, HigherNumberedArchiveOverridesVariantByVariant) {
   EXPECT_EQ(text, "new");
 }
 
+// White space, a missing tree and bad archives are refused by vornpack's own
+// test; these are the refusals that keep extraction inside its directory.
 TEST(ArchiveWriter, RefusesWhatATreeOrArchiveCannotHold) {
   std::string error;
   std::vector<VornArchiveEntry> entries;
-  for (const char* file : {"my icon.png", "NONE/a.txt"}) {
-    TempDir tree;
-    tree.Write(file, "x");
-    EXPECT_FALSE(VornCollectAssetTree(tree.Path(), "", entries, error)) << file;
-    EXPECT_FALSE(error.empty());
-  }
-  EXPECT_FALSE(VornCollectAssetTree("/nonexistent/tree/", "", entries, error));
-
-  TempDir out;
+  TempDir tree;
+  tree.Write("NONE/a.txt", "x");
+  EXPECT_FALSE(VornCollectAssetTree(tree.Path(), "", entries, error));
+  EXPECT_FALSE(error.empty());
   const std::array<const char*, 4> unplaceable[] = {{"../escape", "NONE", "NONE", "NONE"},
                                                     {"a", "..", "NONE", "NONE"},
                                                     {"a", "NONE", "english", "NONE"},
@@ -279,12 +261,9 @@ TEST(ArchiveWriter, RefusesWhatATreeOrArchiveCannotHold) {
     const VornArchiveEntry good{"good.txt", "NONE", "NONE", "NONE", ""},
         bad{u[0], u[1], u[2], u[3], ""};
     EXPECT_EQ(VornArchiveEntryPath(bad), "") << u[0] << " " << u[1];
-    EXPECT_FALSE(VornExtractArchive({good, bad}, out.Path() + "x/", error));
-    EXPECT_FALSE(fs::exists(out.Path() + "x/good.txt"));  // nothing written
+    EXPECT_FALSE(VornExtractArchive({good, bad}, tree.Path() + "x/", error));
+    EXPECT_FALSE(fs::exists(tree.Path() + "x/good.txt"));  // nothing written
   }
-  EXPECT_FALSE(
-      VornWriteArchive(out.Path() + "w.vrk", {{"a b", "NONE", "NONE", "NONE", ""}}, error));
-  EXPECT_FALSE(VornWriteArchive(out.Path() + "no/such/dir/w.vrk", {}, error));
 }
 
 }  // namespace

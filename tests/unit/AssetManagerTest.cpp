@@ -1,5 +1,5 @@
 // The asset index: replacement, the seven-step choice, GetAllAssets, loaders,
-// texts, menu texts, messages and clearing.
+// texts, menu texts and clearing.
 #include <wx/string.h>
 
 #include <filesystem>
@@ -234,21 +234,6 @@ TEST(AssetManagerText, MenuTextGrammar) {
     EXPECT_FALSE(m.LoadMenuText("other.txt", items));
     EXPECT_EQ(items.size(), c.items.size() + 1);
   }
-}
-
-TEST(AssetManagerMessages, LookupFallsBackToTheKeyWithAWarning) {
-  AssetManager m;
-  std::string key = "Hello", text = "Bonjour", other = "Salut";
-  EXPECT_TRUE(m.SetMessage(key, text));
-  EXPECT_FALSE(m.SetMessage(key, other));
-  CaptureDprintf debug;
-  EXPECT_EQ(m.GetMessage("Hello"), "Bonjour");
-  EXPECT_TRUE(debug.Lines().empty());
-  EXPECT_EQ(m.GetMessage(std::string("Good bye")), "Good bye");
-  EXPECT_EQ(debug.Lines(),
-            std::vector<std::string>{"WARNING : Message *Good bye* not translated\n"});
-  m.ClearMessageDatabase();
-  EXPECT_EQ(m.GetMessage("Hello"), "Hello");
 }
 
 }  // namespace

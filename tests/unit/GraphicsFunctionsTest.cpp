@@ -90,13 +90,23 @@ TEST(GreyMasks, EveryFormulaAtTheBoundaryLevels) {
   }
 }
 
-TEST(Conversions, BitmapToImageFormats) {
+TEST(Conversions, BetweenHostBitmapsAndImages) {
   wxImage image;
   ASSERT_TRUE(ConvertTo(image, BitmapA{2, 1, 3, {10, 20, 30, 0, 99, 98, 97, 255}}));
   EXPECT_EQ(image.GetWidth(), 2);
   EXPECT_EQ(RgbOf(image, 0, 0), wxColour(10, 20, 30));
   EXPECT_EQ(RgbOf(image, 1, 0), wxColour(99, 98, 97));
   EXPECT_FALSE(image.HasAlpha());
+  Bitmap rgb{0, 0, 1, {}};
+  ASSERT_TRUE(ConvertTo(rgb, image));
+  EXPECT_EQ(rgb.format, 3);
+  EXPECT_EQ(rgb.data, (std::vector<unsigned char>{10, 20, 30, 99, 98, 97}));
+  BitmapA rgba;
+  ASSERT_TRUE(ConvertTo(rgba, image));
+  EXPECT_EQ(rgba.data, (std::vector<unsigned char>{10, 20, 30, 255, 99, 98, 97, 255}));
+  EXPECT_FALSE(ConvertTo(rgba, wxImage()));
+  EXPECT_EQ(rgba.width, 0);
+
   ASSERT_TRUE(ConvertTo(image, BitmapA{2, 2, 1, {7, 0, 8, 1, 9, 2, 250, 3}}));
   EXPECT_EQ(RgbOf(image, 0, 1), wxColour(9, 9, 9));
   EXPECT_EQ(RgbOf(image, 1, 1), wxColour(250, 250, 250));
@@ -105,31 +115,9 @@ TEST(Conversions, BitmapToImageFormats) {
   ASSERT_TRUE(ConvertTo(image, Bitmap{3, 1, 1, {0, 128, 255}}));
   EXPECT_EQ(RgbOf(image, 1, 0), wxColour(128, 128, 128));
   EXPECT_EQ(RgbOf(image, 2, 0), wxColour(255, 255, 255));
-
-  EXPECT_EQ(FiredAssertion([&] {
-              ConvertTo(image, Bitmap{1, 1, 2, {1, 2}});
-            }),
-            "src.format == 3 || src.format == 1");
-  EXPECT_EQ(FiredAssertion([&] {
-              ConvertTo(image, BitmapA{1, 1, 4, {1, 2, 3, 4}});
-            }),
-            "src.format == 3 || src.format == 1");
-}
-
-TEST(Conversions, ImageToBitmap) {
-  wxImage image(2, 1, false);
-  image.SetRGB(0, 0, 1, 2, 3);
-  image.SetRGB(1, 0, 200, 201, 202);
-  Bitmap rgb;
-  rgb.format = 1;
-  ASSERT_TRUE(ConvertTo(rgb, image));
-  EXPECT_EQ(rgb.format, 3);
-  EXPECT_EQ(rgb.data, (std::vector<unsigned char>{1, 2, 3, 200, 201, 202}));
-  BitmapA rgba;
-  ASSERT_TRUE(ConvertTo(rgba, image));
-  EXPECT_EQ(rgba.data, (std::vector<unsigned char>{1, 2, 3, 255, 200, 201, 202, 255}));
-  EXPECT_FALSE(ConvertTo(rgba, wxImage()));
-  EXPECT_EQ(rgba.width, 0);
+  auto fired = [&](const auto& bmp) { return FiredAssertion([&] { ConvertTo(image, bmp); }); };
+  EXPECT_EQ(fired(Bitmap{1, 1, 2, {1, 2}}), "src.format == 3 || src.format == 1");
+  EXPECT_EQ(fired(BitmapA{1, 1, 4, {1, 2, 3, 4}}), "src.format == 3 || src.format == 1");
 }
 
 TEST(Conversions, BlitCopyAndClear) {

@@ -149,15 +149,11 @@ TEST(ImageCaches, HostBitmapSizesAndNullPointers) {
   BitmapA rgba{3, 9, 3, {}};
   VornBitmapCache bitmaps;
   VornBitmapACache bitmapsA;
-  bitmaps.AssignImage(VIT_ON, &rgb);
-  bitmapsA.AssignImage(VIT_OFF_DOWN, &rgba);
-  int w = 0, h = 0;
-  EXPECT_TRUE(bitmaps.GetSize(w, h));
-  EXPECT_EQ(std::pair(w, h), std::pair(12, 5));
-  EXPECT_TRUE(bitmapsA.GetSize(w, h));
-  EXPECT_EQ(std::pair(w, h), std::pair(3, 9));
   VornwxImageCache images;
   VornGLTextureCache textures;
+  EXPECT_EQ(std::pair(bitmaps.GetImageWidth(&rgb), bitmaps.GetImageHeight(&rgb)), std::pair(12, 5));
+  EXPECT_EQ(std::pair(bitmapsA.GetImageWidth(&rgba), bitmapsA.GetImageHeight(&rgba)),
+            std::pair(3, 9));
   for (const std::string& fired : {FiredAssertion([&] { bitmaps.GetImageWidth(nullptr); }),
                                    FiredAssertion([&] { bitmapsA.GetImageHeight(nullptr); }),
                                    FiredAssertion([&] { images.GetImageWidth(nullptr); }),

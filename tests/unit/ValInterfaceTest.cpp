@@ -1,5 +1,4 @@
-// Value interfaces mixed into one class, and value hints told apart by
-// run-time type tests.
+// Value hints told apart by run-time type tests.
 #include <gtest/gtest.h>
 
 #include "vorn/ValInterface.h"
@@ -51,27 +50,6 @@ TEST(ValueHints, RecognisedByTheirTypeAndDeletedThroughTheBase) {
   VornControlHint* hint = new Watched("x");
   delete hint;
   EXPECT_EQ(destroyed, 1);
-}
-
-// A control-like class editing two types at once.
-class MultiValue : public IntVal, public RealVal {
- public:
-  bool GetValue(int32& out) override { return (out = m_int), true; }
-  bool SetValue(int32 v) override { return (m_int = v), true; }
-  bool GetValue(double& out) override { return (out = m_real), true; }
-  bool SetValue(double v) override { return (m_real = v), false; }
-  int32 m_int = 0;
-  double m_real = 0;
-};
-
-TEST(ValInterface, EachInterfaceReachesItsOwnOverride) {
-  MultiValue value;
-  IntVal& asInt = value;
-  RealVal& asReal = value;
-  EXPECT_TRUE(asInt.SetValue(12));
-  EXPECT_FALSE(asReal.SetValue(2.5));
-  EXPECT_EQ(value.m_int, 12);
-  EXPECT_EQ(value.m_real, 2.5);
 }
 
 }  // namespace
