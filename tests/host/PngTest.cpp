@@ -2,12 +2,66 @@
 #include <png.h>
 #include <zlib.h>
 
+#include <algorithm>
 #include <csetjmp>
+#include <cstdlib>
+#include <new>
 #include <string>
 #include <vector>
 
 #include "HostTestUtil.h"
 #include "vornhost/Bitmap.h"
+
+namespace {
+
+// The largest single allocation made while watching: refusals must not allocate for a size
+// the bytes cannot hold.
+bool g_watchAllocations = false;
+std::size_t g_largestAllocation = 0;
+
+void* Allocate(std::size_t n) noexcept {
+  if (g_watchAllocations) g_largestAllocation = std::max(g_largestAllocation, n);
+  return std::malloc(n ? n : 1);
+}
+
+}  // namespace
+
+// Every form of new and delete, so that they stay paired under the address sanitizer.
+void* operator new(std::size_t n) {
+  if (void* p = Allocate(n)) return p;
+  throw std::bad_alloc();
+}
+void* operator new[](std::size_t n) {
+  return operator new(n);
+}
+void* operator new(std::size_t n, const std::nothrow_t&) noexcept {
+  return Allocate(n);
+}
+void* operator new[](std::size_t n, const std::nothrow_t&) noexcept {
+  return Allocate(n);
+}
+// GCC cannot see that these pair with the malloc above.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wmismatched-new-delete"
+void operator delete(void* p) noexcept {
+  std::free(p);
+}
+void operator delete[](void* p) noexcept {
+  std::free(p);
+}
+void operator delete(void* p, std::size_t) noexcept {
+  std::free(p);
+}
+void operator delete[](void* p, std::size_t) noexcept {
+  std::free(p);
+}
+void operator delete(void* p, const std::nothrow_t&) noexcept {
+  std::free(p);
+}
+void operator delete[](void* p, const std::nothrow_t&) noexcept {
+  std::free(p);
+}
+#pragma GCC diagnostic pop
 
 namespace {
 
@@ -189,6 +243,7 @@ TEST(HostPng, RefusesBrokenInputAndLeavesTheOutput) {
   BitmapA marker;
   Create(marker, 1, 1, 1);
   marker.data = {42, 43};
+  g_watchAllocations = true;
   for (const auto& b : bad) {
     SCOPED_TRACE(b.first);
     BitmapA outA = marker;
@@ -199,6 +254,8 @@ TEST(HostPng, RefusesBrokenInputAndLeavesTheOutput) {
     EXPECT_FALSE(Decode(b.second, out));
     EXPECT_EQ(out.width, 1);
   }
+  g_watchAllocations = false;
+  EXPECT_LT(g_largestAllocation, std::size_t(1) << 24);
   EXPECT_FALSE(LoadBitmapADecode(nullptr, 100, marker));
   EXPECT_FALSE(LoadBitmapADecode(good.data(), 0, marker));
   EXPECT_FALSE(LoadBitmapADecode(good.data(), -5, marker));
