@@ -2,9 +2,9 @@
 // its sheet, the labels of the text buttons and the ring button's ring.
 #include <gtest/gtest.h>
 
-#include "ButtonTestSupport.h"
+#include <numeric>
 
-using namespace buttontest;
+#include "ControlTestSupport.h"
 
 namespace {
 
@@ -19,46 +19,14 @@ void Apply(VornControl& control, const Flags& f) {
   if (!f.enabled) control.SetEnabled(false);
 }
 
-// True when every pixel of the bitmap has colour c.
-bool Uniform(const wxBitmap& bmp, const wxColour& c) {
+// Per column, the number of pixels that differ from the background.
+std::vector<int> InkPerColumn(const wxBitmap& bmp, const wxColour& background) {
   const wxImage image = bmp.ConvertToImage();
+  std::vector<int> ink(image.GetWidth(), 0);
   for (int y = 0; y < image.GetHeight(); ++y)
-    for (int x = 0; x < image.GetWidth(); ++x)
-      if (wxColour(image.GetRed(x, y), image.GetGreen(x, y), image.GetBlue(x, y)) != c)
-        return false;
-  return true;
+    for (int x = 0; x < image.GetWidth(); ++x) ink[x] += ImagePixel(image, x, y) != background;
+  return ink;
 }
-
-// Number of pixels within tolerance of c.
-int CountNear(const wxBitmap& bmp, const wxColour& c, int tolerance) {
-  const wxImage image = bmp.ConvertToImage();
-  int n = 0;
-  for (int y = 0; y < image.GetHeight(); ++y)
-    for (int x = 0; x < image.GetWidth(); ++x)
-      if (std::abs(image.GetRed(x, y) - c.Red()) <= tolerance &&
-          std::abs(image.GetGreen(x, y) - c.Green()) <= tolerance &&
-          std::abs(image.GetBlue(x, y) - c.Blue()) <= tolerance)
-        ++n;
-  return n;
-}
-
-struct StateCase {
-  Flags flags;
-  VORNIMAGETYPE full;     // drawn with every state image
-  VORNIMAGETYPE partial;  // drawn with only the plain off and on images
-};
-
-const StateCase kStates[] = {
-    {{false, true, false, false}, VIT_OFF, VIT_OFF},
-    {{false, true, true, false}, VIT_OFF_MOUSE_OVER, VIT_OFF},
-    {{false, true, true, true}, VIT_OFF_DOWN, VIT_OFF},
-    {{false, true, false, true}, VIT_OFF_DOWN, VIT_OFF},
-    {{true, true, false, false}, VIT_ON, VIT_ON},
-    {{true, true, true, false}, VIT_ON_MOUSE_OVER, VIT_ON},
-    {{true, true, true, true}, VIT_ON_DOWN, VIT_ON},
-    {{false, false, true, false}, VIT_DISABLED_OFF, VIT_OFF},
-    {{true, false, false, false}, VIT_DISABLED_ON, VIT_ON},
-};
 
 class ButtonDrawTest : public ::testing::Test {
  protected:
@@ -66,18 +34,33 @@ class ButtonDrawTest : public ::testing::Test {
 };
 
 TEST_F(ButtonDrawTest, DrawsTheStateImageOrItsFallback) {
+  const struct {
+    Flags flags;
+    VORNIMAGETYPE full;     // drawn with every state image
+    VORNIMAGETYPE partial;  // drawn with only the plain off and on images
+  } states[] = {
+      {{false, true, false, false}, VIT_OFF, VIT_OFF},
+      {{false, true, true, false}, VIT_OFF_MOUSE_OVER, VIT_OFF},
+      {{false, true, true, true}, VIT_OFF_DOWN, VIT_OFF},
+      {{false, true, false, true}, VIT_OFF_DOWN, VIT_OFF},
+      {{true, true, false, false}, VIT_ON, VIT_ON},
+      {{true, true, true, false}, VIT_ON_MOUSE_OVER, VIT_ON},
+      {{true, true, true, true}, VIT_ON_DOWN, VIT_ON},
+      {{false, false, true, false}, VIT_DISABLED_OFF, VIT_OFF},
+      {{true, false, false, false}, VIT_DISABLED_ON, VIT_ON},
+  };
   auto full = MakeCache(AllStates());
   auto partial = MakeCache({VIT_OFF, VIT_ON});
-  for (const StateCase& c : kStates) {
+  for (const auto& c : states) {
     for (bool usePartial : {false, true}) {
+      SCOPED_TRACE(testing::Message() << "state " << c.full << (usePartial ? " partial" : ""));
       // The base button keeps the on flag as set: no click reaction flips it.
       VornButton button(usePartial ? partial.get() : full.get(), 0, 0, frame.Get(), 1, nullptr);
       button.SetOn(c.flags.on);
       Apply(button, c.flags);
-      const VORNIMAGETYPE expected = usePartial ? c.partial : c.full;
-      EXPECT_EQ(c.full, (button.RecalcState(), button.GetState()));
-      EXPECT_TRUE(Uniform(Render(&button, 24, 16), StateColour(expected)))
-          << "state " << c.full << (usePartial ? " partial" : " full");
+      button.RecalcState();
+      EXPECT_EQ(c.full, button.GetState());
+      EXPECT_TRUE(Uniform(Render(&button, 24, 16), StateColour(usePartial ? c.partial : c.full)));
     }
   }
 }
@@ -111,10 +94,10 @@ TEST_F(ButtonDrawTest, DrawsNothingWithoutAnImage) {
   VornButton noImage(onOnly.get(), 0, 0, frame.Get(), 1, nullptr);
   VornButton noCache(nullptr, 0, 0, 24, 16, frame.Get(), 2, nullptr);
   WallpaperImageInfo<wxBitmap> info;
-  EXPECT_TRUE(Uniform(Render(&noImage, 24, 16, fill), fill));
-  EXPECT_FALSE(noImage.GetImageInfo(info));
-  EXPECT_TRUE(Uniform(Render(&noCache, 24, 16, fill), fill));
-  EXPECT_FALSE(noCache.GetImageInfo(info));
+  for (VornButton* button : {&noImage, &noCache}) {
+    EXPECT_TRUE(Uniform(Render(button, 24, 16, fill), fill));
+    EXPECT_FALSE(button->GetImageInfo(info));
+  }
   // Switching on brings the only image in; a new cache replaces it.
   noImage.SetOn(true);
   EXPECT_TRUE(Uniform(Render(&noImage, 24, 16, fill), StateColour(VIT_ON)));
@@ -136,30 +119,25 @@ TEST_F(ButtonDrawTest, TextPushButtonDrawsItsFaceAndLabel) {
   shot = Render(&plain, 90, 24);
   EXPECT_GT(CountNear(shot, hover, 10), 8);
   // Centred: the label's ink is balanced around the middle.
-  const wxImage image = shot.ConvertToImage();
-  int left = 90, right = -1;
-  for (int y = 0; y < 24; ++y)
-    for (int x = 0; x < 90; ++x)
-      if (wxColour(image.GetRed(x, y), image.GetGreen(x, y), image.GetBlue(x, y)) != back) {
-        left = std::min(left, x);
-        right = std::max(right, x);
-      }
+  const std::vector<int> ink = InkPerColumn(shot, back);
+  auto inked = [](int n) { return n > 0; };
+  const int left = std::find_if(ink.begin(), ink.end(), inked) - ink.begin();
+  const int right = ink.rend() - std::find_if(ink.rbegin(), ink.rend(), inked) - 1;
   EXPECT_NEAR(45, (left + right) / 2.0, 3);
 
+  // With images the state image is the whole face.
   auto cache = MakeCache({VIT_OFF, VIT_OFF_MOUSE_OVER, VIT_OFF_DOWN, VIT_ON}, 90, 24);
-  VornTextPushButton skinned("Apply", -1, -1, *wxNORMAL_FONT, text, back, hover, cache.get(), 0, 30,
-                             frame.Get(), 2, nullptr);
-  EXPECT_EQ(90, skinned.GetWidth());
-  struct Case {
+  const struct {
     Flags flags;
     VORNIMAGETYPE state;
-  };
-  for (const Case& c : {Case{{false, true, false, false}, VIT_OFF},
-                        Case{{false, true, true, false}, VIT_OFF_MOUSE_OVER},
-                        Case{{false, true, true, true}, VIT_OFF_DOWN},
-                        Case{{false, false, false, false}, VIT_OFF}}) {
-    VornTextPushButton b("", -1, -1, *wxNORMAL_FONT, text, back, hover, cache.get(), 0, 60,
+  } cases[] = {{{false, true, false, false}, VIT_OFF},
+               {{false, true, true, false}, VIT_OFF_MOUSE_OVER},
+               {{false, true, true, true}, VIT_OFF_DOWN},
+               {{false, false, false, false}, VIT_OFF}};
+  for (const auto& c : cases) {
+    VornTextPushButton b("", -1, -1, *wxNORMAL_FONT, text, back, hover, cache.get(), 0, 30,
                          frame.Get(), 3, nullptr);
+    EXPECT_EQ(90, b.GetWidth());
     Apply(b, c.flags);
     EXPECT_TRUE(Uniform(Render(&b, 90, 24), StateColour(c.state))) << c.state;
   }
@@ -174,15 +152,9 @@ TEST_F(ButtonDrawTest, TextRadioButtonDrawsItsImageThenBothLabels) {
   EXPECT_EQ(StateColour(VIT_OFF), PixelAt(shot, 0, 0));
   EXPECT_GT(CountNear(shot, off, 12), 8);
   // One label in each half.
-  const wxImage image = shot.ConvertToImage();
-  int leftInk = 0, rightInk = 0;
-  for (int y = 0; y < 24; ++y)
-    for (int x = 0; x < 100; ++x)
-      if (wxColour(image.GetRed(x, y), image.GetGreen(x, y), image.GetBlue(x, y)) !=
-          StateColour(VIT_OFF))
-        ++(x < 50 ? leftInk : rightInk);
-  EXPECT_GT(leftInk, 8);
-  EXPECT_GT(rightInk, 8);
+  const std::vector<int> ink = InkPerColumn(shot, StateColour(VIT_OFF));
+  EXPECT_GT(std::accumulate(ink.begin(), ink.begin() + 50, 0), 8);
+  EXPECT_GT(std::accumulate(ink.begin() + 50, ink.end(), 0), 8);
 
   radio.SetOn(true);
   shot = Render(&radio, 100, 24);
@@ -193,24 +165,21 @@ TEST_F(ButtonDrawTest, TextRadioButtonDrawsItsImageThenBothLabels) {
 
 TEST_F(ButtonDrawTest, RingButtonDrawsARingInItsColour) {
   VornValueControlGroup1ofN group;
-  const wxColour red(230, 30, 30);
+  const wxColour red(230, 30, 30), grey(30, 30, 30), light(230, 230, 230);
   VornRingButton ring(red, 3, 8, 8, 0, 0, 56, 40, frame.Get(), 1, &group);
-  ring.SetBgColour(wxColour(30, 30, 30));
-  wxBitmap off = Render(&ring, 56, 40);
-  EXPECT_EQ(wxColour(30, 30, 30), PixelAt(off, 0, 0));
-  EXPECT_EQ(wxColour(30, 30, 30), PixelAt(off, 28, 20));  // the centre stays empty
-  const int offRing = CountNear(off, red, 8);
-  EXPECT_GT(offRing, 40);
+  ring.SetBgColour(grey);
+  const wxBitmap off = Render(&ring, 56, 40);
+  EXPECT_EQ(grey, PixelAt(off, 0, 0));
+  EXPECT_EQ(grey, PixelAt(off, 28, 20));  // the centre stays empty
+  EXPECT_GT(CountNear(off, red, 8), 40);
+  EXPECT_LT(CountNear(off, light, 40), 5);
 
   ring.SetOn(true);
-  wxBitmap on = Render(&ring, 56, 40);
+  const wxBitmap on = Render(&ring, 56, 40);
   EXPECT_GT(CountNear(on, red, 8), 0);
-  EXPECT_GT(CountNear(on, wxColour(230, 230, 230), 40), 20);  // halo and handles
-  EXPECT_LT(CountNear(off, wxColour(230, 230, 230), 40), 5);
-
+  EXPECT_GT(CountNear(on, light, 40), 20);  // halo and handles
   ring.SetEnabled(false);
-  wxBitmap disabled = Render(&ring, 56, 40);
-  EXPECT_EQ(0, CountNear(disabled, red, 8));  // faded towards the background
+  EXPECT_EQ(0, CountNear(Render(&ring, 56, 40), red, 8));  // faded towards the background
 }
 
 }  // namespace

@@ -4,11 +4,7 @@
 #include <gtest/gtest.h>
 #include <wx/evtloop.h>
 
-#include <algorithm>
-
-#include "ButtonTestSupport.h"
-
-using namespace buttontest;
+#include "ControlTestSupport.h"
 
 namespace {
 
@@ -33,49 +29,40 @@ class ButtonMomentTest : public ::testing::Test {
     log.clear();
     elapsed = ms;
     button.GetTimer()->Notify();
-    const long sel = std::count(log.begin(), log.end(), "sel 6");
-    const long rep = std::count(log.begin(), log.end(), "repeat 6");
-    EXPECT_EQ(sel, rep);
-    EXPECT_EQ(static_cast<std::size_t>(sel + rep), log.size());
-    // Each pair is a selection followed by its hint.
-    for (std::size_t i = 0; i + 1 < log.size(); i += 2) {
-      EXPECT_EQ("sel 6", log[i]);
-      EXPECT_EQ("repeat 6", log[i + 1]);
-    }
-    return static_cast<int>(sel);
+    EventLog pairs;
+    for (std::size_t i = 0; i < log.size() / 2; ++i)
+      pairs.insert(pairs.end(), {"sel 6", "repeat 6"});
+    EXPECT_EQ(pairs, log) << "each selection is followed by its hint";
+    return static_cast<int>(log.size() / 2);
   }
 
   TestFrame frame;
-  Log log;
+  EventLog log;
   RecordingGroup group{&log};
-  HintLog hints{&log};
+  RecordingReceiver hints{&log};
   std::unique_ptr<VornwxBitmapCache> cache = MakeCache(AllStates());
   VornMomentBtn button{cache.get(), 0, 0, frame.Get(), 6, &group, 0, kDelay, kInterval};
   long elapsed = 0;
 };
 
-TEST_F(ButtonMomentTest, PressSendsSelectionAndFirstPressHintAndStartsTheTimer) {
+TEST_F(ButtonMomentTest, PressStartsTheTimerAndOnlyAReleaseOverItUnselects) {
   Mouse(&button, wxEVT_ENTER_WINDOW);
   Mouse(&button, wxEVT_LEFT_DOWN);
-  EXPECT_EQ((Log{"sel 6", "first 6"}), log);
-  EXPECT_TRUE(button.GetTimer()->IsRunning());
-  EXPECT_TRUE(button.GetTimer()->IsOneShot());
-  EXPECT_EQ(kDelay, button.GetTimer()->GetInterval());
-  EXPECT_TRUE(button.GetTimer()->GetFirstTick());
-
+  EXPECT_EQ((EventLog{"sel 6", "first 6"}), log);
+  VornButtonTimer* timer = button.GetTimer();
+  EXPECT_TRUE(timer->IsRunning() && timer->IsOneShot() && timer->GetFirstTick());
+  EXPECT_EQ(kDelay, timer->GetInterval());
   log.clear();
   Mouse(&button, wxEVT_LEFT_UP);
-  EXPECT_EQ((Log{"unsel 6"}), log);
-  EXPECT_FALSE(button.GetTimer()->IsRunning());
-}
+  EXPECT_EQ((EventLog{"unsel 6"}), log);
+  EXPECT_FALSE(timer->IsRunning());
 
-TEST_F(ButtonMomentTest, ReleasedAwayFromTheButtonSendsNoUnselection) {
-  Mouse(&button, wxEVT_ENTER_WINDOW);
+  // Released away from the button: no unselection.
   Mouse(&button, wxEVT_LEFT_DOWN);
   log.clear();
   Mouse(&button, wxEVT_LEAVE_WINDOW);
   EXPECT_TRUE(log.empty());
-  EXPECT_FALSE(button.GetTimer()->IsRunning());
+  EXPECT_FALSE(timer->IsRunning());
 }
 
 TEST_F(ButtonMomentTest, RepeatsOncePerIntervalPlusOneAndCarriesTheRemainder) {
@@ -84,16 +71,17 @@ TEST_F(ButtonMomentTest, RepeatsOncePerIntervalPlusOneAndCarriesTheRemainder) {
   EXPECT_FALSE(button.GetTimer()->GetFirstTick());
   EXPECT_EQ(kInterval, button.GetTimer()->GetInterval());
   EXPECT_TRUE(button.GetTimer()->IsOneShot());
-  for (int i = 0; i < 3; ++i) EXPECT_EQ(2, Tick(kInterval)) << "punctual tick " << i;
-  EXPECT_EQ(0, button.GetTimer()->GetRemainder());
-
-  EXPECT_EQ(3, Tick(250));  // late: 2 intervals, 50 carried
-  EXPECT_EQ(50, button.GetTimer()->GetRemainder());
-  EXPECT_EQ(2, Tick(60));  // 60 + 50 = 110
-  EXPECT_EQ(10, button.GetTimer()->GetRemainder());
-  EXPECT_EQ(1, Tick(30));  // 40 < one interval
-  EXPECT_EQ(40, button.GetTimer()->GetRemainder());
-
+  const struct {
+    long ms;
+    int repeats, remainder;
+  } ticks[] = {{kInterval, 2, 0}, {kInterval, 2, 0},
+               {kInterval, 2, 0}, {250, 3, 50},  // late: 2 intervals, 50 carried
+               {60, 2, 10},                      // 60 + 50 = 110
+               {30, 1, 40}};                     // 40 < one interval
+  for (const auto& t : ticks) {
+    EXPECT_EQ(t.repeats, Tick(t.ms)) << t.ms;
+    EXPECT_EQ(t.remainder, button.GetTimer()->GetRemainder()) << t.ms;
+  }
   // The remainder survives the next press; its first tick counts nothing.
   Mouse(&button, wxEVT_LEFT_UP);
   Mouse(&button, wxEVT_LEFT_DOWN);
@@ -103,19 +91,14 @@ TEST_F(ButtonMomentTest, RepeatsOncePerIntervalPlusOneAndCarriesTheRemainder) {
   EXPECT_EQ(0, button.GetTimer()->GetRemainder());
 }
 
-TEST_F(ButtonMomentTest, DisablingStopsTheRepeatAtOnce) {
+TEST_F(ButtonMomentTest, DisablingStopsTheRepeatAndNoGroupMeansNoNotifications) {
   Mouse(&button, wxEVT_LEFT_DOWN);
   EXPECT_EQ(1, Tick(kDelay));
   EXPECT_TRUE(button.GetTimer()->IsRunning());
   button.SetEnabled(false);
-  EXPECT_FALSE(button.GetTimer()->IsRunning());
-  EXPECT_FALSE(button.GetMouseDown());
-  // A tick already queued sends nothing for a disabled button.
-  EXPECT_EQ(0, Tick(kInterval));
-  button.GetTimer()->Stop();
-}
+  EXPECT_FALSE(button.GetTimer()->IsRunning() || button.GetMouseDown());
+  EXPECT_EQ(0, Tick(kInterval));  // a tick already queued sends nothing
 
-TEST_F(ButtonMomentTest, NoGroupNoNotificationsButTheTimerStillRuns) {
   VornMomentBtn lone(cache.get(), 30, 0, frame.Get(), 7, nullptr, 0, kDelay, kInterval);
   lone.GetTimer()->SetClock([] { return 1000L; });
   Mouse(&lone, wxEVT_LEFT_DOWN);
@@ -139,8 +122,7 @@ TEST_F(ButtonMomentTest, TheRealTimerRepeatsWhileHeld) {
   wxEventLoopActivator active(&loop);
   for (int i = 0; i < 500 && log.size() < 4; ++i) loop.DispatchTimeout(10);
   ASSERT_GE(log.size(), 4u);
-  EXPECT_EQ("sel 6", log[0]);
-  EXPECT_EQ("repeat 6", log[1]);
+  EXPECT_EQ((EventLog{"sel 6", "repeat 6"}), EventLog(log.begin(), log.begin() + 2));
   Mouse(&button, wxEVT_LEFT_UP);
   EXPECT_FALSE(button.GetTimer()->IsRunning());
 }

@@ -1,13 +1,22 @@
 #pragma once
-// Controls, windowless controls and receivers that write what happens to
-// them into a shared log, and a hint that counts its live instances.
+// Shared pieces of the control tests: controls, groups and receivers that
+// write what happens to them into one log, solid-colour state caches, mouse
+// events sent through a window's own handler, and pixel comparisons.
+#include <gtest/gtest.h>
+#include <wx/dcmemory.h>
+
+#include <cstdlib>
+#include <functional>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "GuiTestSupport.h"
 #include "TestSupport.h"
+#include "vorn/ValInterface.h"
 #include "vorn/VirtualControl.h"
+#include "vorn/VornButton.h"
 #include "vorn/VornControl.h"
 #include "vorn/VornControlGroup.h"
 
@@ -78,11 +87,22 @@ class RecordingVirtual : public VirtualControl {
   std::string m_name;
 };
 
+// With a name logs "update <name>"; without one names the hint it received:
+// "int 1 4", "first 6", "repeat 6" or "hint 6".
 class RecordingReceiver : public MessageReceiver {
  public:
-  RecordingReceiver(EventLog* log, std::string name) : m_log(log), m_name(std::move(name)) {}
-  void OnUpdate(unsigned int, VornControl*, VornControlHint*) override {
-    m_log->push_back("update " + m_name);
+  explicit RecordingReceiver(EventLog* log, std::string name = "")
+      : m_log(log), m_name(std::move(name)) {}
+  void OnUpdate(unsigned int id, VornControl*, VornControlHint* hint) override {
+    const std::string tail = " " + std::to_string(id);
+    if (!m_name.empty())
+      m_log->push_back("update " + m_name);
+    else if (auto* value = dynamic_cast<IntValChanged*>(hint))
+      m_log->push_back("int " + std::to_string(value->m_value) + tail);
+    else if (auto* moment = dynamic_cast<VornMomentHint*>(hint))
+      m_log->push_back(std::string(moment->m_bFirstPress ? "first" : "repeat") + tail);
+    else
+      m_log->push_back("hint" + tail);
   }
 
  private:
@@ -90,11 +110,45 @@ class RecordingReceiver : public MessageReceiver {
   std::string m_name;
 };
 
-// Sends a mouse event through the control's own event handler, as wx would.
-inline void SendMouse(wxWindow* window, wxEventType type, int x = 5, int y = 5, bool shift = false,
-                      bool alt = false) {
+// A group of type Base that records its selection notifications ("sel 3").
+template <class Base>
+class RecordingGroupOf : public Base {
+ public:
+  explicit RecordingGroupOf(EventLog* log) : m_log(log) {}
+  void ControlSelected(unsigned int id, VornControl*) override { Note("sel", id); }
+  void ControlUnSelected(unsigned int id, VornControl*) override { Note("unsel", id); }
+
+ protected:
+  void Note(const char* what, unsigned int id) {
+    m_log->push_back(std::string(what) + " " + std::to_string(id));
+  }
+  EventLog* m_log;
+};
+
+// ... and its drag and shape notifications ("drag 9", "shape 9").
+template <class Base>
+class RecordingValueGroupOf : public RecordingGroupOf<Base> {
+ public:
+  using RecordingGroupOf<Base>::RecordingGroupOf;
+  void ControlDrag(unsigned int id, VornControl*) override { this->Note("drag", id); }
+  void ControlShapeChanged(unsigned int id, VornControl*) override { this->Note("shape", id); }
+};
+
+using RecordingGroup = RecordingGroupOf<VornControlGroup1ofN>;
+using RecordingValueGroup = RecordingValueGroupOf<VornValueControlGroup1ofN>;
+
+// Sends a mouse event through the window's own event handler, as wx would.
+inline void Mouse(wxWindow* window, wxEventType type, int x = 4, int y = 4, bool shift = false,
+                  bool alt = false) {
   wxMouseEvent event = MakeMouseEvent(window, type, x, y, shift, alt);
   window->GetEventHandler()->ProcessEvent(event);
+}
+
+// Enter, press and release inside the window.
+inline void Click(wxWindow* window) {
+  Mouse(window, wxEVT_ENTER_WINDOW);
+  Mouse(window, wxEVT_LEFT_DOWN);
+  Mouse(window, wxEVT_LEFT_UP);
 }
 
 // The condition text and function of the assertion f fires, or two empty
@@ -108,4 +162,104 @@ std::pair<std::string, std::string> FiredAssertionIn(F&& f) {
     return {e.condition, e.function};
   }
   return {};
+}
+
+// A distinct colour per state, so a drawn pixel tells which image was used.
+inline wxColour StateColour(VORNIMAGETYPE state) {
+  return wxColour(20 * static_cast<int>(state) + 10, 255 - 20 * static_cast<int>(state), 90);
+}
+
+inline wxBitmap SolidBitmap(int w, int h, const wxColour& c) {
+  wxImage image(w, h);
+  image.SetRGB(wxRect(0, 0, w, h), c.Red(), c.Green(), c.Blue());
+  return wxBitmap(image);
+}
+
+inline std::vector<VORNIMAGETYPE> AllStates() {
+  return {VIT_OFF,         VIT_ON,           VIT_ON_MOUSE_OVER, VIT_OFF_MOUSE_OVER,
+          VIT_DISABLED_ON, VIT_DISABLED_OFF, VIT_ON_DOWN,       VIT_OFF_DOWN};
+}
+
+// A cache holding solid images of the given states only.
+inline std::unique_ptr<VornwxBitmapCache> MakeCache(const std::vector<VORNIMAGETYPE>& states,
+                                                    int w = 24, int h = 16) {
+  auto cache = std::make_unique<VornwxBitmapCache>();
+  for (VORNIMAGETYPE s : states)
+    cache->AssignImageOwn(s, new wxBitmap(SolidBitmap(w, h, StateColour(s))));
+  return cache;
+}
+
+// Renders a control's OnDraw into a bitmap pre-filled with fill.
+template <class Control>
+wxBitmap Render(Control* control, int w, int h, const wxColour& fill = wxColour(1, 2, 3)) {
+  wxBitmap target = SolidBitmap(w, h, fill);
+  wxMemoryDC dc(target);
+  control->OnDraw(&dc);
+  dc.SelectObject(wxNullBitmap);
+  return target;
+}
+
+inline wxColour ImagePixel(const wxImage& image, int x, int y) {
+  return wxColour(image.GetRed(x, y), image.GetGreen(x, y), image.GetBlue(x, y));
+}
+
+inline ::testing::AssertionResult SamePixels(const wxBitmap& a, const wxBitmap& b) {
+  if (a.GetSize() != b.GetSize())
+    return ::testing::AssertionFailure() << "sizes " << a.GetWidth() << "x" << a.GetHeight()
+                                         << " and " << b.GetWidth() << "x" << b.GetHeight();
+  const wxImage ia = a.ConvertToImage(), ib = b.ConvertToImage();
+  for (int y = 0; y < a.GetHeight(); ++y)
+    for (int x = 0; x < a.GetWidth(); ++x)
+      if (ImagePixel(ia, x, y) != ImagePixel(ib, x, y))
+        return ::testing::AssertionFailure() << "pixels differ at " << x << "," << y;
+  return ::testing::AssertionSuccess();
+}
+
+// Every pixel of bmp has colour c.
+inline ::testing::AssertionResult Uniform(const wxBitmap& bmp, const wxColour& c) {
+  return SamePixels(bmp, SolidBitmap(bmp.GetWidth(), bmp.GetHeight(), c));
+}
+
+// Number of pixels within tolerance of c.
+inline int CountNear(const wxBitmap& bmp, const wxColour& c, int tolerance) {
+  const wxImage image = bmp.ConvertToImage();
+  int n = 0;
+  for (int y = 0; y < image.GetHeight(); ++y)
+    for (int x = 0; x < image.GetWidth(); ++x)
+      n += std::abs(image.GetRed(x, y) - c.Red()) <= tolerance &&
+           std::abs(image.GetGreen(x, y) - c.Green()) <= tolerance &&
+           std::abs(image.GetBlue(x, y) - c.Blue()) <= tolerance;
+  return n;
+}
+
+// The mouse flags of a window or windowless control, e.g. "over left down B meta".
+template <class C>
+std::string MouseFlags(const C& c) {
+  std::string s;
+  for (const auto& [set, name] : {std::pair{c.GetMouseOver(), "over"},
+                                  {c.GetMouseDownLeft(), "left"},
+                                  {c.GetMouseDownRight(), "right"},
+                                  {c.GetMouseDown(), "down"},
+                                  {c.GetMetaA(), "A"},
+                                  {c.GetMetaB(), "B"},
+                                  {c.GetMetaKey(), "meta"}})
+    if (set) s += s.empty() ? name : std::string(" ") + name;
+  return s;
+}
+
+// The last pointer and press positions: "mouse 3,4 down 3,4".
+template <class C>
+std::string Positions(C& c) {
+  int mx, my, dx, dy;
+  c.GetLastMousePos(mx, my);
+  c.GetLastDownPos(dx, dy);
+  return "mouse " + std::to_string(mx) + "," + std::to_string(my) + " down " + std::to_string(dx) +
+         "," + std::to_string(dy);
+}
+
+// The log's entries separated by spaces.
+inline std::string Joined(const EventLog& log) {
+  std::string s;
+  for (const std::string& entry : log) s += (s.empty() ? "" : " ") + entry;
+  return s;
 }

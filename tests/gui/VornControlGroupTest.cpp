@@ -8,7 +8,6 @@
 #include <memory>
 
 #include "ControlTestSupport.h"
-#include "vorn/VornButton.h"
 
 namespace {
 
@@ -17,6 +16,8 @@ std::string Hex(const void* p) {
   std::snprintf(buf, sizeof buf, "%p", p);
   return buf;
 }
+
+using Fired = std::pair<std::string, std::string>;
 
 class ControlGroup : public ::testing::Test {
  protected:
@@ -42,7 +43,7 @@ TEST_F(ControlGroup, UpdateVisitsMembersInTheFixedOrder) {
   group.Update(3, &c3, &hint);
   EXPECT_EQ(log, EventLog({"update id3", "update id7", "update idless", "update virtual",
                            "update sub", "update receiver"}));
-  EXPECT_EQ(c3.lastSource, &c3);
+  EXPECT_EQ(c3.lastSource, &c3);  // the source receives its own hint
   EXPECT_EQ(c3.lastHint, &hint);
   EXPECT_EQ(inSub.lastId, 3u);
 
@@ -52,7 +53,7 @@ TEST_F(ControlGroup, UpdateVisitsMembersInTheFixedOrder) {
   group.DeRegister(&virtualIdless);
 }
 
-TEST_F(ControlGroup, MembersAppendedDuringUpdateAreVisited) {
+TEST_F(ControlGroup, UpdateRereadsItsListsAsMembersComeAndGo) {
   VornControlGroup group;
   RecordingControl first(frame.Get(), 1, nullptr, &log, "first");
   RecordingControl late(frame.Get(), 2, nullptr, &log, "late");
@@ -69,18 +70,15 @@ TEST_F(ControlGroup, MembersAppendedDuringUpdateAreVisited) {
   EXPECT_EQ(log, EventLog({"update byId", "update lateById", "update first", "update late"}));
   group.DeRegister(&first);
   group.DeRegister(&late);
-}
 
-TEST_F(ControlGroup, MembersLeavingDuringUpdateAreSkippedSafely) {
-  VornControlGroup group;
-  RecordingControl first(frame.Get(), 1, &group, &log, "1");
-  auto* second = new RecordingControl(frame.Get(), 2, &group, &log, "2");
-  RecordingControl third(frame.Get(), 3, &group, &log, "3");
-  first.onUpdate = [&] {
-    delete second;
-    second = nullptr;
-  };
-  group.Update(0, nullptr, nullptr);
+  // A member deleted by an earlier one is skipped safely.
+  VornControlGroup shrinking;
+  RecordingControl one(frame.Get(), 1, &shrinking, &log, "1");
+  auto* two = new RecordingControl(frame.Get(), 2, &shrinking, &log, "2");
+  RecordingControl three(frame.Get(), 3, &shrinking, &log, "3");
+  one.onUpdate = [&] { delete two; };
+  log.clear();
+  shrinking.Update(0, nullptr, nullptr);
   EXPECT_EQ(log, EventLog({"update 1", "update 3"}));
 }
 
@@ -107,21 +105,17 @@ TEST_F(ControlGroup, OwnedControlsAreDeletedOnlyByDeRegisterWithoutKeep) {
   EXPECT_FALSE(group.DeRegister(99u, false));  // unknown id: nothing
   delete kept;
   delete cleared;
-  EXPECT_EQ(RecordingControl::s_destroyed, 3);
-}
 
-TEST_F(ControlGroup, DeRegisterByPointerFindsTheEntry) {
-  VornControlGroup group;
+  // By pointer: the entry of that kind, even when another kind shares the id.
   auto* control = new RecordingControl(frame.Get(), 20, &group, nullptr);
-  RecordingVirtual windowless(20, &group, &log, "w");  // same id, other map
-  RecordingControl::s_destroyed = 0;
+  RecordingVirtual windowless(20, &group, &log, "w");
   EXPECT_TRUE(group.DeRegister(static_cast<VirtualControl*>(&windowless), true));
   EXPECT_EQ(windowless.GetGroup(), nullptr);
   EXPECT_EQ(control->GetGroup(), &group);
   group.DeRegister(20u, true);
   group.RegisterOwner(20, control);
   EXPECT_TRUE(group.DeRegister(static_cast<VornControl*>(control), false));
-  EXPECT_EQ(RecordingControl::s_destroyed, 1);
+  EXPECT_EQ(RecordingControl::s_destroyed, 4);
   EXPECT_TRUE(group.IsEmpty());
 }
 
@@ -130,7 +124,6 @@ TEST_F(ControlGroup, ProgrammingErrorsAssertZeroNamingTheOperation) {
   RecordingControl control(frame.Get(), 1, &group, nullptr);
   RecordingVirtual windowless(1, &group, &log, "w");
   RecordingReceiver receiver(&log, "r");
-  using Fired = std::pair<std::string, std::string>;
   EXPECT_EQ(FiredAssertionIn([&] { group.Register(1, &control); }), Fired("0", "Register"));
   EXPECT_EQ(FiredAssertionIn([&] { group.RegisterOwner(1, &control, "x"); }),
             Fired("0", "RegisterOwner"));
@@ -149,41 +142,31 @@ TEST_F(ControlGroup, ProgrammingErrorsAssertZeroNamingTheOperation) {
   EXPECT_FALSE(group.DeRegister(static_cast<VornControl*>(nullptr)));  // null: nothing
 }
 
-TEST_F(ControlGroup, ReceiverRegistrationWritesDebugLines) {
-  VornControlGroup group;
+TEST_F(ControlGroup, DebugLinesAndDumpTrace) {
+  VornControlGroup group, sub;
   RecordingReceiver receiver(&log, "r");
   CaptureDprintf capture;
   group.Register(&receiver);
   group.DeRegister(&receiver);
-  const std::string address = Hex(&receiver);
+  group.DumpTrace();
+  const std::string head = "Current control group address is " + Hex(&group) + "\n";
   EXPECT_EQ(capture.Lines(),
-            std::vector<std::string>(
-                {"VornControlGroup::Register(MessageReceiver* " + address + ")\n",
-                 "VornControlGroup::DeRegister(MessageReceiver* " + address + ")\n"}));
-}
+            EventLog({"VornControlGroup::Register(MessageReceiver* " + Hex(&receiver) + ")\n",
+                      "VornControlGroup::DeRegister(MessageReceiver* " + Hex(&receiver) + ")\n",
+                      head, " Controls (0):\n", " Virtual Controls (0):\n", " Groups (0):\n"}));
 
-TEST_F(ControlGroup, DumpTraceOfEmptyAndFilledGroups) {
-  VornControlGroup group, sub;
-  {
-    CaptureDprintf capture;
-    group.DumpTrace();
-    EXPECT_EQ(capture.Lines(),
-              std::vector<std::string>({"Current control group address is " + Hex(&group) + "\n",
-                                        " Controls (0):\n", " Virtual Controls (0):\n",
-                                        " Groups (0):\n"}));
-  }
   RecordingControl named(frame.Get(), 8, nullptr, nullptr);
   group.RegisterOwner(8, &named, "okay");
   RecordingControl idless(frame.Get(), 9, nullptr, nullptr);
   group.Register(&idless);  // not listed
   RecordingVirtual windowless(2, &group, &log, "w");
   sub.Bind(&group);
-  CaptureDprintf capture;
+  capture.ClearLines();
   group.DumpTrace();
   EXPECT_EQ(
       capture.Lines(),
-      std::vector<std::string>(
-          {"Current control group address is " + Hex(&group) + "\n", " Controls (1):\n",
+      EventLog(
+          {head, " Controls (1):\n",
            "  ID = 8, mce: id = 8, own = 1, control = " + Hex(&named) + ", name = okay\n",
            " Virtual Controls (1):\n",
            "  ID = 2, mce: id = 2, own = 0, control = " + Hex(&windowless) + ", name = NONAME\n",
@@ -192,7 +175,7 @@ TEST_F(ControlGroup, DumpTraceOfEmptyAndFilledGroups) {
   group.DeRegister(&idless);
 }
 
-TEST_F(ControlGroup, ShowAllAndSetEnableAllReachEveryMemberAndSubGroup) {
+TEST_F(ControlGroup, BulkOperationsReachEveryMemberAndSubGroup) {
   VornControlGroup group, sub;
   sub.Bind(&group);
   RecordingControl byId(frame.Get(), 1, &group, nullptr);
@@ -202,44 +185,37 @@ TEST_F(ControlGroup, ShowAllAndSetEnableAllReachEveryMemberAndSubGroup) {
   RecordingControl inSub(frame.Get(), 4, &sub, nullptr);
 
   group.ShowAll(nullptr, true, nullptr);
-  EXPECT_TRUE(windowless.IsVisible());
-  EXPECT_TRUE(byId.IsVisible());
+  EXPECT_TRUE(windowless.IsVisible() && byId.IsVisible());
   group.ShowAll(nullptr, false, nullptr);
-  EXPECT_FALSE(byId.IsShown());
-  EXPECT_FALSE(idless.IsShown());
-  EXPECT_FALSE(windowless.IsVisible());
-  EXPECT_FALSE(inSub.IsShown());
   group.SetEnableAll(nullptr, false, nullptr);
-  EXPECT_FALSE(byId.GetEnabled());
-  EXPECT_FALSE(idless.GetEnabled());
-  EXPECT_FALSE(windowless.GetEnabled());
-  EXPECT_FALSE(inSub.GetEnabled());
+  for (VornControl* c : {&byId, &idless, &inSub})
+    EXPECT_FALSE(c->IsShown() || c->GetEnabled()) << c->GetId();
+  EXPECT_FALSE(windowless.IsVisible() || windowless.GetEnabled());
   group.DeRegister(&idless);
-}
 
-TEST_F(ControlGroup, OnAndEnableByIdTouchOnlyButtons) {
-  VornControlGroup group;
-  VornButton button(nullptr, 0, 0, 10, 10, frame.Get(), 1, &group);
+  // On and enable by id touch buttons only; id-less ones match every id.
+  VornControlGroup buttons;
+  VornButton button(nullptr, 0, 0, 10, 10, frame.Get(), 1, &buttons);
   VornButton idlessButton(nullptr, 0, 0, 10, 10, frame.Get(), 2, nullptr);
-  group.Register(&idlessButton);
-  RecordingControl plain(frame.Get(), 3, &group, nullptr);
-  VirtualButton windowless;
-  windowless.Create(nullptr, false, 0, 0, nullptr, nullptr, 1, &group);
+  buttons.Register(&idlessButton);
+  RecordingControl plain(frame.Get(), 3, &buttons, nullptr);
+  VirtualButton virtualButton;
+  virtualButton.Create(nullptr, false, 0, 0, nullptr, nullptr, 1, &buttons);
+  auto* notAButton = new RecordingVirtual(4, &buttons, &log, "w");
 
-  group.SetOnControl(1, true, nullptr);
-  EXPECT_TRUE(button.GetOn());
-  EXPECT_TRUE(idlessButton.GetOn());  // id-less controls match every id
-  EXPECT_TRUE(windowless.GetOn());
-  group.SetOnControl(3, false, nullptr);
+  buttons.SetOnControl(1, true, nullptr);
+  EXPECT_TRUE(button.GetOn() && idlessButton.GetOn() && virtualButton.GetOn());
+  buttons.SetOnControl(3, false, nullptr);
   EXPECT_TRUE(button.GetOn());
   EXPECT_FALSE(idlessButton.GetOn());
-
-  group.SetEnableControl(3, false, nullptr);
-  EXPECT_TRUE(plain.GetEnabled());  // not a button
+  buttons.SetOnControl(4, true, nullptr);
+  buttons.SetEnableControl(3, false, nullptr);
+  EXPECT_TRUE(plain.GetEnabled());
   EXPECT_FALSE(idlessButton.GetEnabled());
-  group.SetEnableControl(1, false, nullptr);
+  buttons.SetEnableControl(1, false, nullptr);
   EXPECT_FALSE(button.GetEnabled());
-  group.DeRegister(&idlessButton);
+  buttons.DeRegister(&idlessButton);
+  delete notAButton;
 }
 
 TEST_F(ControlGroup, OneOfNSelection) {
@@ -249,9 +225,8 @@ TEST_F(ControlGroup, OneOfNSelection) {
   VornButton c(nullptr, 0, 0, 10, 10, frame.Get(), 3, &group);
   for (VornButton* button : {&a, &b, &c}) button->SetOn(true);
   group.SetOnAll(&b, false, nullptr);
-  EXPECT_FALSE(a.GetOn());
-  EXPECT_TRUE(b.GetOn());
-  EXPECT_FALSE(c.GetOn());
+  EXPECT_EQ(std::vector<bool>({a.GetOn(), b.GetOn(), c.GetOn()}),
+            std::vector<bool>({false, true, false}));
   EXPECT_EQ(group.GetSelected(), 2u);
 
   group.SetOnControl(42, true, nullptr);  // recorded even without a control
@@ -269,23 +244,8 @@ TEST_F(ControlGroup, OneOfNSelection) {
   EXPECT_FALSE(v2.GetOn());  // the chosen one is not switched
 }
 
-class NotifiedGroup : public VornControlGroupValue {
- public:
-  explicit NotifiedGroup(EventLog* log) : m_log(log) {}
-  void ControlSelected(unsigned int id, VornControl*) override { Note("selected", id); }
-  void ControlUnSelected(unsigned int id, VornControl*) override { Note("unselected", id); }
-  void ControlDrag(unsigned int id, VornControl*) override { Note("drag", id); }
-  void ControlShapeChanged(unsigned int id, VornControl*) override { Note("shape", id); }
-
- private:
-  void Note(const char* what, unsigned int id) {
-    m_log->push_back(std::string(what) + " " + std::to_string(id));
-  }
-  EventLog* m_log;
-};
-
 TEST_F(ControlGroup, ChildToParentReaddressesToTheCompound) {
-  NotifiedGroup outer(&log);
+  RecordingValueGroupOf<VornControlGroupValue> outer(&log);
   RecordingControl compound(frame.Get(), 70, &outer, nullptr);
   ChildToParentControlGroup inner(&compound);
   RecordingControl child(&compound, 5, &inner, nullptr);
@@ -293,56 +253,43 @@ TEST_F(ControlGroup, ChildToParentReaddressesToTheCompound) {
   inner.ControlUnSelected(5, &child);
   inner.ControlDrag(5, &child);
   inner.ControlShapeChanged(5, &child);
-  EXPECT_EQ(log, EventLog({"selected 70", "unselected 70", "drag 70", "shape 70"}));
+  EXPECT_EQ(log, EventLog({"sel 70", "unsel 70", "drag 70", "shape 70"}));
 
-  // Drag and shape need a value group above; selection does not.
+  // Drag and shape need a value group above; selection needs a parent.
   VornControlGroup plainOuter;
   compound.SetGroup(&plainOuter);
   outer.DeRegister(70u, true);
   log.clear();
   ChildToParentControlGroup orphan;
-  orphan.ControlSelected(5, &child);  // no parent: nothing
+  orphan.ControlSelected(5, &child);
   inner.ControlDrag(5, &child);
   EXPECT_TRUE(log.empty());
 }
 
 // Destruction in every order must leave no dangling pointer behind
 // (checked under AddressSanitizer).
-TEST_F(ControlGroup, ControlDestroyedBeforeItsGroup) {
+TEST_F(ControlGroup, MembersAndGroupsDestroyedInEitherOrder) {
   auto group = std::make_unique<VornControlGroup>();
-  auto* control = new RecordingControl(frame.Get(), 1, group.get(), nullptr);
-  auto* windowless = new RecordingVirtual(2, group.get(), &log, "w");
-  delete control;
-  delete windowless;
+  delete new RecordingControl(frame.Get(), 1, group.get(), nullptr);
+  delete new RecordingVirtual(2, group.get(), &log, "w");
+  auto child = std::make_unique<VornControlGroup>();
+  child->Bind(group.get());
+  child.reset();  // leaves the parent's list
   EXPECT_TRUE(group->IsEmpty());
   group->Update(0, nullptr, nullptr);
-}
 
-TEST_F(ControlGroup, GroupDestroyedBeforeItsControls) {
-  auto group = std::make_unique<VornControlGroup>();
   auto* control = new RecordingControl(frame.Get(), 1, group.get(), nullptr);
   auto* windowless = new RecordingVirtual(2, group.get(), &log, "w");
   RecordingControl idless(frame.Get(), 3, nullptr, nullptr);
   group->Register(&idless);
+  child = std::make_unique<VornControlGroup>();
+  child->Bind(group.get());
   group.reset();
   EXPECT_EQ(control->GetGroup(), nullptr);
   EXPECT_EQ(windowless->GetGroup(), nullptr);
+  EXPECT_EQ(child->GetGroup(), nullptr);
   delete control;
   delete windowless;
-}
-
-TEST_F(ControlGroup, SubGroupsInEitherOrder) {
-  auto parent = std::make_unique<VornControlGroup>();
-  auto child = std::make_unique<VornControlGroup>();
-  child->Bind(parent.get());
-  child.reset();  // leaves the parent's list
-  EXPECT_TRUE(parent->IsEmpty());
-  parent->Update(0, nullptr, nullptr);
-
-  child = std::make_unique<VornControlGroup>();
-  child->Bind(parent.get());
-  parent.reset();
-  EXPECT_EQ(child->GetGroup(), nullptr);
 }
 
 TEST_F(ControlGroup, ValueOneOfNGroupWithControlsOnBothSides) {

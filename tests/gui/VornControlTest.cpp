@@ -1,7 +1,6 @@
 // The control base: the mouse state machine driven by real wx events,
-// enabling, group binding.
+// enabling, dirtiness and group binding.
 #include <gtest/gtest.h>
-#include <wx/dcmemory.h>
 #include <wx/wx.h>
 
 #include "ControlTestSupport.h"
@@ -16,76 +15,47 @@ class VornControlMouse : public ::testing::Test {
   RecordingControl* control = nullptr;
 };
 
-TEST_F(VornControlMouse, PressAndReleaseFollowTheTable) {
-  SendMouse(control, wxEVT_LEFT_DOWN, 3, 4, /*shift=*/true, /*alt=*/false);
-  EXPECT_EQ(log, EventLog({"over", "downLeft", "button"}));
-  EXPECT_TRUE(control->GetMouseDownLeft());
-  EXPECT_TRUE(control->GetMouseOver());
-  EXPECT_TRUE(control->GetMetaB());
-  EXPECT_FALSE(control->GetMetaA());
-  EXPECT_TRUE(control->GetMetaKey());
-  int x, y;
-  control->GetLastDownPos(x, y);
-  EXPECT_EQ(std::make_pair(x, y), std::make_pair(3, 4));
-
-  log.clear();
-  SendMouse(control, wxEVT_LEFT_UP, 8, 9, false, true);
-  EXPECT_EQ(log, EventLog({"downLeft", "button"}));
-  EXPECT_FALSE(control->GetMouseDown());
-  EXPECT_TRUE(control->GetMouseOver());  // a release does not clear over
-  EXPECT_TRUE(control->GetMetaA());
-  EXPECT_FALSE(control->GetMetaB());
-  control->GetLastMousePos(x, y);
-  EXPECT_EQ(std::make_pair(x, y), std::make_pair(8, 9));
-  control->GetLastDownPos(x, y);
-  EXPECT_EQ(std::make_pair(x, y), std::make_pair(3, 4));
-
-  log.clear();
-  SendMouse(control, wxEVT_RIGHT_DOWN);
-  SendMouse(control, wxEVT_RIGHT_DOWN);  // unchanged: no notification
-  EXPECT_TRUE(control->GetMouseDownRight());
-  SendMouse(control, wxEVT_RIGHT_UP);
-  EXPECT_EQ(log, EventLog({"downRight", "button", "downRight", "button"}));
-}
-
-TEST_F(VornControlMouse, EnterLeaveAndMotion) {
-  SendMouse(control, wxEVT_ENTER_WINDOW, 2, 3);
-  EXPECT_EQ(log, EventLog({"over", "entering"}));
-  int x, y;
-  control->GetLastMousePos(x, y);
-  EXPECT_EQ(std::make_pair(x, y), std::make_pair(2, 3));
-
-  log.clear();
-  SendMouse(control, wxEVT_MOTION, 6, 7, false, true);
-  EXPECT_EQ(log, EventLog({"move 6,7"}));
-  EXPECT_TRUE(control->GetMetaA());
-  control->GetLastMousePos(x, y);  // motion does not store the position
-  EXPECT_EQ(std::make_pair(x, y), std::make_pair(2, 3));
-
-  log.clear();
-  SendMouse(control, wxEVT_LEAVE_WINDOW, 40, 1);
-  EXPECT_EQ(log, EventLog({"over", "leaving"}));
-  EXPECT_FALSE(control->GetMouseOver());
-}
-
-TEST_F(VornControlMouse, LeavingWithoutCaptureReleasesTheButtons) {
-  SendMouse(control, wxEVT_LEFT_DOWN);
-  SendMouse(control, wxEVT_RIGHT_DOWN);
-  log.clear();
-  SendMouse(control, wxEVT_LEAVE_WINDOW, 50, 50);
-  EXPECT_EQ(log, EventLog({"over", "downLeft", "button", "downRight", "button", "leaving"}));
-  EXPECT_FALSE(control->GetMouseDown());
-}
-
-TEST_F(VornControlMouse, LeavingWithCaptureKeepsTheButton) {
-  SendMouse(control, wxEVT_LEFT_DOWN);
-  control->CaptureMouse();
-  log.clear();
-  SendMouse(control, wxEVT_LEAVE_WINDOW, 50, 50);
-  EXPECT_EQ(log, EventLog({"over", "leaving"}));
-  EXPECT_TRUE(control->GetMouseDownLeft());
-  SendMouse(control, wxEVT_LEFT_UP, 60, 60);  // the release still arrives
-  EXPECT_FALSE(control->GetMouseDownLeft());
+TEST_F(VornControlMouse, EventsFollowTheStateTable) {
+  // mods: S shift, A alt, C the control holds the mouse capture from then on.
+  const struct {
+    wxEventType type;
+    int x, y;
+    const char *mods, *log, *flags, *positions;
+  } steps[] = {
+      {wxEVT_LEFT_DOWN, 3, 4, "S", "over downLeft button", "over left down B meta",
+       "mouse 3,4 down 3,4"},
+      // A release does not clear over.
+      {wxEVT_LEFT_UP, 8, 9, "A", "downLeft button", "over A meta", "mouse 8,9 down 3,4"},
+      {wxEVT_RIGHT_DOWN, 5, 5, "", "downRight button", "over right down", "mouse 5,5 down 5,5"},
+      {wxEVT_RIGHT_DOWN, 5, 5, "", "", "over right down", "mouse 5,5 down 5,5"},
+      {wxEVT_RIGHT_UP, 6, 6, "", "downRight button", "over", "mouse 6,6 down 5,5"},
+      {wxEVT_LEAVE_WINDOW, 40, 1, "", "over leaving", "", "mouse 40,1 down 5,5"},
+      {wxEVT_ENTER_WINDOW, 2, 3, "", "over entering", "over", "mouse 2,3 down 5,5"},
+      // Motion reads the modifiers but does not store the position.
+      {wxEVT_MOTION, 6, 7, "A", "move 6,7", "over A meta", "mouse 2,3 down 5,5"},
+      {wxEVT_LEFT_DOWN, 4, 4, "", "downLeft button", "over left down", "mouse 4,4 down 4,4"},
+      {wxEVT_RIGHT_DOWN, 4, 4, "", "downRight button", "over left right down",
+       "mouse 4,4 down 4,4"},
+      // Leaving without the capture lets go of both buttons.
+      {wxEVT_LEAVE_WINDOW, 50, 50, "", "over downLeft button downRight button leaving", "",
+       "mouse 50,50 down 4,4"},
+      {wxEVT_LEFT_DOWN, 4, 4, "", "over downLeft button", "over left down", "mouse 4,4 down 4,4"},
+      // With the capture held the button stays down and the release arrives.
+      {wxEVT_LEAVE_WINDOW, 50, 50, "C", "over leaving", "left down", "mouse 50,50 down 4,4"},
+      {wxEVT_LEFT_UP, 60, 60, "C", "downLeft button", "", "mouse 60,60 down 4,4"},
+  };
+  int n = 0;
+  for (const auto& s : steps) {
+    SCOPED_TRACE("step " + std::to_string(n++));
+    const std::string mods = s.mods;
+    if (mods.find('C') != std::string::npos) control->CaptureMouse();
+    log.clear();
+    Mouse(control, s.type, s.x, s.y, mods.find('S') != std::string::npos,
+          mods.find('A') != std::string::npos);
+    EXPECT_EQ(Joined(log), s.log);
+    EXPECT_EQ(MouseFlags(*control), s.flags);
+    EXPECT_EQ(Positions(*control), s.positions);
+  }
   control->ReleaseMouse();
 }
 
@@ -94,30 +64,26 @@ TEST_F(VornControlMouse, DisabledControlIgnoresEverything) {
   log.clear();
   for (wxEventType type : {wxEVT_LEFT_DOWN, wxEVT_RIGHT_DOWN, wxEVT_ENTER_WINDOW, wxEVT_MOTION,
                            wxEVT_LEFT_UP, wxEVT_RIGHT_UP, wxEVT_LEAVE_WINDOW})
-    SendMouse(control, type, 1, 1, true, true);
+    Mouse(control, type, 1, 1, true, true);
   EXPECT_TRUE(log.empty());
-  EXPECT_FALSE(control->GetMouseOver());
-  EXPECT_FALSE(control->GetMouseDown());
-  EXPECT_FALSE(control->GetMetaKey());
+  EXPECT_EQ(MouseFlags(*control), "");
 }
 
 TEST_F(VornControlMouse, SetEnabledClearsButtonsSilentlyAndAlwaysRecalcs) {
-  SendMouse(control, wxEVT_LEFT_DOWN);
+  Mouse(control, wxEVT_LEFT_DOWN);
   log.clear();
   control->SetEnabled(false);
   EXPECT_EQ(log, EventLog({"disable", "recalc"}));
-  EXPECT_FALSE(control->GetMouseDownLeft());
+  EXPECT_EQ(MouseFlags(*control), "over");
   EXPECT_FALSE(control->GetEnabled());
-
-  log.clear();
   control->SetEnabled(false);  // unchanged
-  EXPECT_EQ(log, EventLog({"recalc"}));
   control->SetEnabled(true);
-  EXPECT_EQ(log, EventLog({"recalc", "enable", "recalc"}));
+  EXPECT_EQ(log, EventLog({"disable", "recalc", "recalc", "enable", "recalc"}));
+  EXPECT_TRUE(control->GetEnabled());
   EXPECT_FALSE(control->IsDirty());
 }
 
-TEST(VornControl, DrawRecalculatesOnlyWhenDirty) {
+TEST(VornControl, DirtyStartsSetIsSetByReactionsAndDrawRecalcsOnlyThen) {
   TestFrame frame;
   EventLog log;
   RecordingControl control(frame.Get(), 1, nullptr, &log);
@@ -130,17 +96,14 @@ TEST(VornControl, DrawRecalculatesOnlyWhenDirty) {
   control.SetDirty();
   control.OnDraw(&dc);
   EXPECT_EQ(log.size(), 2u);
-}
 
-TEST(VornControl, DefaultReactionsMarkDirty) {
-  TestFrame frame;
-  VornControl control(0, 0, 10, 10, frame.Get(), 3, nullptr);
-  control.ClearDirty();
-  control.SetMouseDownLeft(true);  // OnMouseButton sets dirty
-  EXPECT_TRUE(control.IsDirty());
-  control.ClearDirty();
-  control.SetMouseOver(true);
-  EXPECT_TRUE(control.IsDirty());
+  VornControl plain(0, 0, 10, 10, frame.Get(), 3, nullptr);
+  plain.ClearDirty();
+  plain.SetMouseDownLeft(true);  // OnMouseButton sets dirty
+  EXPECT_TRUE(plain.IsDirty());
+  plain.ClearDirty();
+  plain.SetMouseOver(true);
+  EXPECT_TRUE(plain.IsDirty());
 }
 
 TEST(VornControl, RegistersWithItsGroupUnderTheAssignedId) {
@@ -163,9 +126,8 @@ TEST(VornControl, BindAssertsOnASecondGroupAndSetGroupDoesNot) {
   RecordingControl control(frame.Get(), 12, nullptr, nullptr);
   control.Bind(&first);
   EXPECT_EQ(control.GetGroup(), &first);
-  auto fired = FiredAssertionIn([&] { control.Bind(&second); });
-  EXPECT_EQ(fired.first, "m_pControlGroup == __null");
-  EXPECT_EQ(fired.second, "Bind");
+  EXPECT_EQ(FiredAssertionIn([&] { control.Bind(&second); }),
+            std::make_pair(std::string("m_pControlGroup == __null"), std::string("Bind")));
   EXPECT_TRUE(second.IsEmpty());
 
   control.SetGroup(&second);  // replaces silently, stays registered in first
@@ -173,17 +135,6 @@ TEST(VornControl, BindAssertsOnASecondGroupAndSetGroupDoesNot) {
   EXPECT_FALSE(second.IsEmpty());
   EXPECT_FALSE(first.IsEmpty());
   first.DeRegister(12u, true);
-}
-
-TEST(VornControl, HintEventReachesOnUpdateThroughTheTable) {
-  TestFrame frame;
-  VornControlGroup group;
-  RecordingControl control(frame.Get(), 2, &group, nullptr);
-  CountingHint hint;
-  group.Update(9, &control, &hint);  // the source receives its own hint
-  EXPECT_EQ(control.lastSource, &control);
-  EXPECT_EQ(control.lastHint, &hint);
-  EXPECT_EQ(control.lastId, 9u);
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // Windows and panels: construction, geometry, visibility, capture, painting,
 // key forwarding and hint events.
 #include <gtest/gtest.h>
-#include <wx/dcmemory.h>
 #include <wx/wx.h>
 
 #include "ControlTestSupport.h"
@@ -14,96 +13,72 @@ namespace {
 
 class ShowRecorder : public VornPanel {
  public:
-  ShowRecorder(wxWindow* parent) : VornPanel(0, 0, 20, 20, parent, wxID_ANY) {}
+  explicit ShowRecorder(wxWindow* parent) : VornPanel(0, 0, 20, 20, parent, wxID_ANY) {}
   void OnShow() override { log.push_back("show"); }
   void OnHide() override { log.push_back("hide"); }
   EventLog log;
 };
 
-TEST(VornWindow, BackgroundComesFromParentOrIsYellowGreen) {
+std::vector<int> WindowPos(VornWindow* win) {
+  int x, y, w, h;
+  win->GetWindowPos(x, y, w, h);
+  return {x, y, w, h};
+}
+
+TEST(VornWindow, ConstructionGeometryAndBackground) {
   TestFrame frame;
   auto* plain = new wxWindow(frame.Get(), wxID_ANY);
-  auto* unsetChild = new VornPanel(0, 0, 10, 10, plain, wxID_ANY);
-  EXPECT_EQ(unsetChild->GetBgColour(), wxTheColourDatabase->Find("YELLOW GREEN"));
-
+  auto* unsized = new VornPanel(4, 6, plain, wxID_ANY);
+  EXPECT_EQ(unsized->GetBgColour(), wxTheColourDatabase->Find("YELLOW GREEN"));
+  EXPECT_EQ(WindowPos(unsized), std::vector<int>({4, 6, -1, -1}));
   plain->SetBackgroundColour(wxColour(10, 20, 30));
-  auto* setChild = new VornPanel(0, 0, plain, wxID_ANY);
-  EXPECT_EQ(setChild->GetBgColour(), wxColour(10, 20, 30));
-}
-
-TEST(VornWindow, GeometryIsStoredAndApplied) {
-  TestFrame frame;
-  auto* unsized = new VornPanel(4, 6, frame.Get(), wxID_ANY);
-  int x, y, w, h;
-  unsized->GetWindowPos(x, y, w, h);
-  EXPECT_EQ(std::vector<int>({x, y, w, h}), std::vector<int>({4, 6, -1, -1}));
+  EXPECT_EQ((new VornPanel(0, 0, plain, wxID_ANY))->GetBgColour(), wxColour(10, 20, 30));
 
   auto* win = new VornPanel(1, 2, 30, 40, frame.Get(), wxID_ANY);
-  EXPECT_EQ(win->GetPosition(), wxPoint(1, 2));
-  EXPECT_EQ(win->GetSize(), wxSize(30, 40));
+  EXPECT_EQ(win->GetRect(), wxRect(1, 2, 30, 40));
   win->SetPosition(7, 8);
   win->SetSize(50, 60);
-  EXPECT_EQ(win->GetPosition(), wxPoint(7, 8));
-  EXPECT_EQ(win->GetSize(), wxSize(50, 60));
+  EXPECT_EQ(win->GetRect(), wxRect(7, 8, 50, 60));
   win->SetWindowPos(11, 12, 13, 14);
-  win->GetWindowPos(x, y, w, h);
-  EXPECT_EQ(std::vector<int>({x, y, w, h}), std::vector<int>({11, 12, 13, 14}));
+  EXPECT_EQ(WindowPos(win), std::vector<int>({11, 12, 13, 14}));
   EXPECT_EQ(win->GetRect(), wxRect(11, 12, 13, 14));
-  EXPECT_EQ(win->GetWidth(), 13);
-  EXPECT_EQ(win->GetPosY(), 12);
 }
 
-TEST(VornWindow, ShowAndHideSetTheFlagAndNotify) {
+TEST(VornWindow, ShowHideCaptureAndColours) {
   TestFrame frame;
   auto* win = new ShowRecorder(frame.Get());
   EXPECT_FALSE(win->IsVisible());  // construction alone does not count as Show
   win->Hide();
   EXPECT_FALSE(win->IsShown());
   win->Show();
-  EXPECT_TRUE(win->IsVisible());
-  EXPECT_TRUE(win->IsShown());
+  EXPECT_TRUE(win->IsVisible() && win->IsShown());
   win->Show(false);
   EXPECT_FALSE(win->IsVisible());
   EXPECT_EQ(win->log, EventLog({"hide", "show", "hide"}));
-}
 
-TEST(VornWindow, CaptureAndReleaseNeverNest) {
-  TestFrame frame;
-  auto* win = new VornPanel(0, 0, 20, 20, frame.Get(), wxID_ANY);
+  // Capture and release never nest.
   win->ReleaseMouse();  // without capture: nothing happens
   EXPECT_FALSE(win->IsMouseCaptive());
   win->CaptureMouse();
   win->CaptureMouse();
-  EXPECT_TRUE(win->IsMouseCaptive());
-  EXPECT_TRUE(win->HasCapture());
+  EXPECT_TRUE(win->IsMouseCaptive() && win->HasCapture());
   win->ReleaseMouse();
   EXPECT_FALSE(win->IsMouseCaptive());
-  EXPECT_FALSE(win->HasCapture());
   EXPECT_EQ(wxWindow::GetCapture(), nullptr);
   win->ReleaseMouse();
   EXPECT_EQ(wxWindow::GetCapture(), nullptr);
-}
 
-TEST(VornWindow, OnDrawClearsToTheBackgroundAndRejectsNull) {
-  TestFrame frame;
-  auto* win = new VornPanel(0, 0, 8, 8, frame.Get(), wxID_ANY);
-  win->SetBgColour(wxColour(200, 10, 20));
+  win->SetFgColour(Color(1.0, 0.5, 0.999));
+  EXPECT_EQ(win->GetFgColour(), wxColour(255, 127, 254));  // truncated, not rounded
+  EXPECT_EQ(win->SetBgColour(Color(0.0, 1.0, 0.0)), wxColour(0, 255, 0));
+  EXPECT_EQ(win->SetBgColour(wxString("RED")), wxColour(255, 0, 0));
   wxBitmap bmp(8, 8);
   {
     wxMemoryDC dc(bmp);
     win->OnDraw(&dc);
   }
-  EXPECT_EQ(PixelAt(bmp, 3, 3), wxColour(200, 10, 20));
+  EXPECT_EQ(PixelAt(bmp, 3, 3), wxColour(255, 0, 0));  // cleared to the background
   EXPECT_EQ(FiredAssertion([&] { win->OnDraw(nullptr); }), "dc != nullptr");
-}
-
-TEST(VornWindow, ColoursAndToolTip) {
-  TestFrame frame;
-  auto* win = new VornPanel(0, 0, 8, 8, frame.Get(), wxID_ANY);
-  win->SetFgColour(Color(1.0, 0.5, 0.999));
-  EXPECT_EQ(win->GetFgColour(), wxColour(255, 127, 254));  // truncated, not rounded
-  EXPECT_EQ(win->SetBgColour(Color(0.0, 1.0, 0.0)), wxColour(0, 255, 0));
-  EXPECT_EQ(win->SetBgColour(wxString("RED")), wxColour(255, 0, 0));
 
   win->SetToolTip("first");
   wxToolTip* tip = win->GetToolTip();
@@ -130,8 +105,7 @@ TEST(VornWindow, KeyPressReachesTheHostPanelAsVornKeyEvent) {
 
   wxKeyEvent down(wxEVT_KEY_DOWN);
   down.m_keyCode = WXK_F5;
-  down.m_controlDown = true;
-  down.m_shiftDown = true;
+  down.m_controlDown = down.m_shiftDown = true;
   down.m_x = 3;
   down.m_y = 4;
   control->GetEventHandler()->ProcessEvent(down);
@@ -141,25 +115,14 @@ TEST(VornWindow, KeyPressReachesTheHostPanelAsVornKeyEvent) {
   control->GetEventHandler()->ProcessEvent(up);
 
   ASSERT_EQ(seen.size(), 2u);
-  EXPECT_EQ(seen[0].GetEventType(), 22000);
-  EXPECT_EQ(seen[0].GetKeyCode(), WXK_F5);
-  EXPECT_TRUE(seen[0].ControlDown());
-  EXPECT_TRUE(seen[0].ShiftDown());
-  EXPECT_FALSE(seen[0].AltDown());
-  EXPECT_EQ(seen[0].GetX(), 3);
-  EXPECT_EQ(seen[0].GetY(), 4);
-  EXPECT_FALSE(seen[0].GetFlag());
-  EXPECT_EQ(seen[0].GetId(), 0);
-  EXPECT_EQ(seen[0].GetEventObject(), control);
-  EXPECT_EQ(seen[1].GetEventType(), 22001);
-  EXPECT_EQ(seen[1].GetKeyCode(), 'Q');
-  EXPECT_TRUE(seen[1].AltDown());
+  const VornWindowKeyEvent& d = seen[0];
+  EXPECT_EQ(std::vector<long>({d.GetEventType(), d.GetKeyCode(), d.ControlDown(), d.ShiftDown(),
+                               d.AltDown(), d.GetX(), d.GetY(), d.GetFlag(), d.GetId()}),
+            std::vector<long>({22000, WXK_F5, 1, 1, 0, 3, 4, 0, 0}));
+  EXPECT_EQ(d.GetEventObject(), control);
+  EXPECT_EQ(std::vector<long>({seen[1].GetEventType(), seen[1].GetKeyCode(), seen[1].AltDown()}),
+            std::vector<long>({22001, 'Q', 1}));
   EXPECT_EQ(seenByControl, 1);
-}
-
-TEST(VornWindow, StaticTableEntriesUseTheFixedNumbers) {
-  EXPECT_EQ(static_cast<wxEventType>(VORNEVT_KEY_DOWN), 22000);
-  EXPECT_EQ(static_cast<wxEventType>(VORNEVT_KEY_UP), 22001);
   EXPECT_EQ(static_cast<wxEventType>(VORNEVT_HINT), 22010);
 }
 
@@ -179,12 +142,9 @@ TEST(VornHintEvent, DeliversItsHintAndDeletesIt) {
     EXPECT_EQ(CountingHint::s_alive, 1);
   }
   EXPECT_EQ(CountingHint::s_alive, 0);
-}
 
-TEST(VornHintEvent, PostedCopyCarriesTheOnlyHint) {
-  TestFrame frame;
-  RecordingControl control(frame.Get(), 42, nullptr, nullptr);
-  CountingHint* hint = new CountingHint;
+  // A posted copy carries the only hint and deletes it after delivery.
+  hint = new CountingHint;
   {
     VornHintEvent event(VORNEVT_HINT, 5, nullptr, hint);
     wxPostEvent(&control, event);  // queues a clone
