@@ -106,7 +106,7 @@ TEST(ArchiveAsset, BrokenArchivesAreRefusedByOpen) {
       {"empty file", "", false},
       {"short length", "\x05", false},
       {"length 0", RawArchive(0, data, line), false},
-      {"length 3", RawArchive(3, data, line), false},
+      {"length 3", Le32(3) + std::string(3, 0), false},  // a readable empty directory at 3
       {"length beyond the file", RawArchive(100000, data, line), false},
       {"no directory", Le32(104) + data, false},
       {"directory length beyond the file", Le32(104) + data + Le32(50) + "abc", false},
