@@ -46,7 +46,7 @@ class FakeLoader : public AssetLoader {
  public:
   bool failOpen = false;
   bool failLoad = false;
-  int opens = 0, loads = 0, closes = 0;
+  int loads = 0, closes = 0;
   std::vector<MemoryAsset*> toRegister;  // owned until registered
   ~FakeLoader() override {
     for (MemoryAsset* a : toRegister) delete a;
@@ -57,10 +57,7 @@ class FakeLoader : public AssetLoader {
     toRegister.clear();
     return !failLoad;
   }
-  bool Open() override {
-    ++opens;
-    return !failOpen;
-  }
+  bool Open() override { return !failOpen; }
   bool Close() override {
     ++closes;
     return true;
