@@ -35,10 +35,18 @@ class GLTexture : public ::testing::Test {
     m_frame.reset();
   }
 
-  static void LevelSize(GLuint texture, GLint& width, GLint& height) {
-    glBindTexture(GL_TEXTURE_2D, texture);
-    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_WIDTH, &width);
-    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_HEIGHT, &height);
+  // Picture, texture and GL level sizes: w, h, tex w, tex h, level w, level h.
+  static std::vector<int> Sizes(const CGLImage& texture) {
+    GLint w = 0, h = 0;
+    glBindTexture(GL_TEXTURE_2D, texture.GetImage());
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_WIDTH, &w);
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_HEIGHT, &h);
+    return {texture.GetWidth(),
+            texture.GetHeight(),
+            texture.GetTexWidth(),
+            texture.GetTexHeight(),
+            w,
+            h};
   }
   static std::vector<unsigned char> ReadBack(GLuint texture, GLenum format, int bytes) {
     std::vector<unsigned char> pixels(bytes, 0xEE);
@@ -66,75 +74,55 @@ BitmapA Gradient(int width, int height) {
 }
 }  // namespace
 
-TEST_F(GLTexture, RgbaUploadIsPaddedToPowersOfTwo) {
+TEST_F(GLTexture, UploadsArePaddedToPowersOfTwo) {
   const BitmapA image = Gradient(100, 64);
   CGLImage texture;
   ASSERT_TRUE(texture.Copy(image));
   EXPECT_NE(texture.GetImage(), 0u);
-  EXPECT_EQ(texture.GetWidth(), 100);
-  EXPECT_EQ(texture.GetHeight(), 64);
-  EXPECT_EQ(texture.GetTexWidth(), 128);
-  EXPECT_EQ(texture.GetTexHeight(), 64);
+  EXPECT_EQ(Sizes(texture), std::vector<int>({100, 64, 128, 64, 128, 64}));
   EXPECT_FLOAT_EQ(texture.GetfTexWidth(), 0.78125f);
   EXPECT_FLOAT_EQ(texture.GetfTexHeight(), 1.0f);
-  GLint w = 0, h = 0;
-  LevelSize(texture.GetImage(), w, h);
-  EXPECT_EQ(w, 128);
-  EXPECT_EQ(h, 64);
   GLint filter = 0, wrap = 0;
   glGetTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, &filter);
   glGetTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, &wrap);
-  EXPECT_EQ(filter, GL_NEAREST);
-  EXPECT_EQ(wrap, GL_CLAMP);
+  EXPECT_EQ(std::make_pair(filter, wrap), std::make_pair(GL_NEAREST, GL_CLAMP));
 
+  // The picture sits at the top left; the padding is transparent black.
   const std::vector<unsigned char> px = ReadBack(texture.GetImage(), GL_RGBA, 128 * 64 * 4);
-  auto at = [&](int x, int y) { return &px[(static_cast<std::size_t>(y) * 128 + x) * 4]; };
-  for (auto [x, y] : {std::pair{0, 0}, {99, 0}, {37, 63}, {99, 63}}) {
-    const unsigned char* want = image.Pixel(x, y);
-    EXPECT_EQ(std::vector<unsigned char>(at(x, y), at(x, y) + 4),
-              std::vector<unsigned char>(want, want + 4))
+  auto at = [&](int x, int y) {
+    const unsigned char* p = &px[(static_cast<std::size_t>(y) * 128 + x) * 4];
+    return std::vector<int>(p, p + 4);
+  };
+  for (auto [x, y] : {std::pair{0, 0}, {99, 0}, {37, 63}, {99, 63}})
+    EXPECT_EQ(at(x, y), std::vector<int>(image.Pixel(x, y), image.Pixel(x, y) + 4))
         << x << "," << y;
-  }
-  EXPECT_EQ(std::vector<unsigned char>(at(100, 0), at(100, 0) + 4),
-            std::vector<unsigned char>(4, 0));
-  EXPECT_EQ(std::vector<unsigned char>(at(127, 63), at(127, 63) + 4),
-            std::vector<unsigned char>(4, 0));
+  EXPECT_EQ(at(100, 0), std::vector<int>(4, 0));
+  EXPECT_EQ(at(127, 63), std::vector<int>(4, 0));
 
   // A second upload replaces the texture.
   const GLuint first = texture.GetImage();
   ASSERT_TRUE(texture.Copy(Gradient(3, 5)));
-  EXPECT_EQ(texture.GetTexWidth(), 4);
-  EXPECT_EQ(texture.GetTexHeight(), 8);
+  EXPECT_EQ(Sizes(texture), std::vector<int>({3, 5, 4, 8, 4, 8}));
   EXPECT_FLOAT_EQ(texture.GetfTexHeight(), 0.625f);
   EXPECT_TRUE(first == texture.GetImage() || !glIsTexture(first));
   texture.Clear();
   EXPECT_EQ(texture.GetImage(), 0u);
   EXPECT_EQ(texture.GetWidth(), 3);
-}
 
-TEST_F(GLTexture, GreyBitmapUploadsAsRgb) {
+  // Grey pictures upload as RGB.
   Bitmap grey;
-  grey.width = 3;
-  grey.height = 1;
-  grey.format = 1;
+  Create(grey, 3, 1, 1);
   grey.data = {10, 128, 250};
-  CGLImage texture;
   ASSERT_TRUE(texture.Copy(grey));
-  GLint w = 0, h = 0;
-  LevelSize(texture.GetImage(), w, h);
-  EXPECT_EQ(w, 4);
-  EXPECT_EQ(h, 1);
+  EXPECT_EQ(Sizes(texture), std::vector<int>({3, 1, 4, 1, 4, 1}));
   EXPECT_FLOAT_EQ(texture.GetfTexWidth(), 0.75f);
-  const std::vector<unsigned char> px = ReadBack(texture.GetImage(), GL_RGB, 4 * 3);
-  EXPECT_EQ(px, (std::vector<unsigned char>{10, 10, 10, 128, 128, 128, 250, 250, 250, 0, 0, 0}));
+  EXPECT_EQ(ReadBack(texture.GetImage(), GL_RGB, 4 * 3),
+            (std::vector<unsigned char>{10, 10, 10, 128, 128, 128, 250, 250, 250, 0, 0, 0}));
 }
 
 TEST_F(GLTexture, PendingErrorsArePrinted) {
   Bitmap rgb;
-  rgb.width = 2;
-  rgb.height = 2;
-  rgb.format = 3;
-  rgb.data.assign(12, 9);
+  Create(rgb, 2, 2, 3);
   CaptureDprintf capture;
   glEnable(0x7FFF);  // leaves GL_INVALID_ENUM pending
   CGLImage texture;
@@ -160,8 +148,7 @@ TEST_F(GLTexture, CacheCopiesEveryState) {
   std::vector<VORNIMAGETYPE> states;
   textures.GetStates(states);
   EXPECT_EQ(states, (std::vector<VORNIMAGETYPE>{VIT_OFF, VIT_OFF_DOWN}));
-  EXPECT_EQ(textures.GetWidth(), 16);
-  EXPECT_EQ(textures.GetHeight(), 8);
+  EXPECT_EQ(std::make_pair(textures.GetWidth(), textures.GetHeight()), std::make_pair(16, 8));
   const CGLImage* texture = nullptr;
   ASSERT_TRUE(textures.GetImage(VIT_OFF_DOWN, texture));
   EXPECT_EQ(texture->GetTexWidth(), 8);

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "../unit/AssetTestUtil.h"
 #include "GuiTestSupport.h"
 #include "TestSupport.h"
 #include "vorn/AssetManager.h"
@@ -34,60 +35,24 @@ std::string PngRow(const std::vector<std::vector<int>>& pixels) {
   return std::string(bytes.begin(), bytes.end());
 }
 
-// Row 0 of an image as "r,g,b[,a] r,g,b[,a] ...".
+// Row 0 as "r,g,b[,a] ...", from channel c of pixel x.
 template <class F>
-std::string RowOf(int w, F pixel) {
+std::string RowOf(int w, int channels, F at) {
   std::string s;
-  for (int x = 0; x < w; ++x) {
-    const std::vector<int> v = pixel(x);
-    for (std::size_t i = 0; i < v.size(); ++i)
-      s += (i ? "," : (x ? " " : "")) + std::to_string(v[i]);
-  }
+  for (int i = 0; i < w * channels; ++i)
+    s += (i == 0 ? "" : i % channels ? "," : " ") + std::to_string(at(i / channels, i % channels));
   return s;
 }
 template <class B>
 std::string Row(const B& b, int channels) {
-  return RowOf(b.width,
-               [&](int x) { return std::vector<int>(b.Pixel(x, 0), b.Pixel(x, 0) + channels); });
-}
-std::string Rgba(const BitmapA& b) {
-  return Row(b, 4);
+  return RowOf(b.width, channels, [&](int x, int c) { return b.Pixel(x, 0)[c]; });
 }
 std::string Rgb(const wxImage& i) {
-  return RowOf(i.GetWidth(), [&](int x) {
-    return std::vector<int>{i.GetRed(x, 0), i.GetGreen(x, 0), i.GetBlue(x, 0)};
-  });
+  return RowOf(i.GetWidth(), 3, [&](int x, int c) { return i.GetData()[x * 3 + c]; });
 }
 std::string Rgb(const wxBitmap& b) {
   return Rgb(b.ConvertToImage());
 }
-
-// An in-memory asset that counts how often it is opened.
-class CountingAsset : public Asset {
- public:
-  CountingAsset(const std::string& assetName, std::string bytes, int* opens)
-      : m_bytes(std::move(bytes)), m_pOpens(opens) {
-    name = assetName;
-  }
-  bool Open() override {
-    ++*m_pOpens;
-    return m_bOpen = true;
-  }
-  bool Close() override {
-    m_bOpen = false;
-    return true;
-  }
-  unsigned char* GetDataPtr() override {
-    return m_bOpen ? reinterpret_cast<unsigned char*>(m_bytes.data()) : nullptr;
-  }
-  const char* GetTextPtr() override { return m_bOpen ? m_bytes.c_str() : nullptr; }
-  int GetSize() override { return m_bOpen ? static_cast<int>(m_bytes.size()) : -1; }
-
- private:
-  std::string m_bytes;
-  int* m_pOpens;
-  bool m_bOpen = false;
-};
 
 // The test skin: a colour and a font database and 3 x 1 pictures.
 class World {
@@ -131,10 +96,8 @@ class World {
 std::string Db(AssetManager& am, const char* colour) {
   ColorA c;
   am.GetColour(colour, c);
-  return RowOf(1, [&](int) {
-    return std::vector<int>{static_cast<int>(c.r * 255), static_cast<int>(c.g * 255),
-                            static_cast<int>(c.b * 255), static_cast<int>(c.a * 255)};
-  });
+  const double v[] = {c.r, c.g, c.b, c.a};
+  return RowOf(1, 4, [&](int, int i) { return static_cast<int>(v[i] * 255); });
 }
 
 template <class Cache>
@@ -171,7 +134,7 @@ TEST(ImageScript, EachCommandHasItsEffect) {
     BitmapA out;
     CaptureWarnings warnings;
     EXPECT_TRUE(w.Manager().LoadImage("s.sts", out)) << body;
-    EXPECT_EQ(Rgba(out), pixels) << body;
+    EXPECT_EQ(Row(out, 4), pixels) << body;
     for (const auto& warning : warnings.Warnings()) ADD_FAILURE() << body << ": " << warning.text;
   }
 
@@ -184,8 +147,8 @@ TEST(ImageScript, EachCommandHasItsEffect) {
   const BitmapA *off = nullptr, *on = nullptr;
   cache.GetImage(VIT_OFF, off);
   cache.GetImage(VIT_ON, on);
-  EXPECT_EQ(Rgba(*off), "200,100,50,0 200,100,50,0 200,100,50,0");
-  EXPECT_EQ(Rgba(*on), "200,100,50,0 99,177,152,0 0,255,255,0");
+  EXPECT_EQ(Row(*off, 4), "200,100,50,0 200,100,50,0 200,100,50,0");
+  EXPECT_EQ(Row(*on, 4), "200,100,50,0 99,177,152,0 0,255,255,0");
 }
 
 // ---- Errors -----------------------------------------------------------------
@@ -256,7 +219,7 @@ TEST(ImageScript, EveryCommandErrorIsReportedWithItsMessage) {
     } else if (c.build == kImage) {
       BitmapA image;
       EXPECT_TRUE(am.LoadImage(name, image)) << script;
-      EXPECT_EQ(Rgba(image).substr(0, Db(am, "pink").size()), Db(am, "pink"));
+      EXPECT_EQ(Row(image, 4).substr(0, Db(am, "pink").size()), Db(am, "pink"));
     } else if (c.build == kEdit) {
       wxBitmap bitmap;
       VornEditInfo info;
@@ -284,20 +247,17 @@ TEST(ImageScript, AFailedCacheHoldsTheEightErrorColours) {
   VornBitmapACache cache;
   ASSERT_TRUE(w.Manager().LoadImages("s.sts", cache));
   ASSERT_EQ(warnings.Warnings().size(), 1u);
-  const std::pair<VORNIMAGETYPE, const char*> expected[] = {{VIT_ON, "pink"},
-                                                            {VIT_OFF, "red"},
-                                                            {VIT_ON_DOWN, "blue"},
-                                                            {VIT_OFF_DOWN, "purple"},
-                                                            {VIT_ON_MOUSE_OVER, "brown"},
-                                                            {VIT_OFF_MOUSE_OVER, "green"},
-                                                            {VIT_DISABLED_ON, "orange"},
-                                                            {VIT_DISABLED_OFF, "lightblue"}};
+  const VORNIMAGETYPE states[] = {VIT_ON,          VIT_OFF,           VIT_ON_DOWN,
+                                  VIT_OFF_DOWN,    VIT_ON_MOUSE_OVER, VIT_OFF_MOUSE_OVER,
+                                  VIT_DISABLED_ON, VIT_DISABLED_OFF};
+  const char* colours[] = {"pink",  "red",   "blue",   "purple",
+                           "brown", "green", "orange", "lightblue"};
   EXPECT_EQ(States(cache).size(), 8u);
-  for (const auto& [state, colour] : expected) {
+  for (int i = 0; i < 8; ++i) {
     const BitmapA* image = nullptr;
-    ASSERT_TRUE(cache.GetImage(state, image)) << colour;
-    const std::string c = Db(w.Manager(), colour);
-    EXPECT_EQ(Rgba(*image), c + " " + c + " " + c) << colour;
+    ASSERT_TRUE(cache.GetImage(states[i], image)) << colours[i];
+    const std::string c = Db(w.Manager(), colours[i]);
+    EXPECT_EQ(Row(*image, 4), c + " " + c + " " + c) << colours[i];
   }
 }
 
@@ -383,33 +343,34 @@ TEST(ImageLoading, TheEndingChoosesDecoderOrScript) {
 TEST(ImageLoading, CachedPicturesAreSharedAndReadOnce) {
   World w;
   AssetManager& am = w.Manager();
-  int pictureOpens = 0, maskOpens = 0, scriptOpens = 0;
-  am.SetAsset(new CountingAsset("counted.png", PngRow({{9, 8, 7}}), &pictureOpens));
-  am.SetAsset(new CountingAsset("mask.png", PngRow({{255, 255, 255}}), &maskOpens));
-  for (const char* name : {"set.sts", "other.sts"})
-    am.SetAsset(new CountingAsset(
-        name, "size rgba 1 1\nclear base\nmap mask.png paint\nassign off\nfinish\n", &scriptOpens));
+  // Each read of an asset ends with its Close.
+  auto* picture = new MemoryAsset("counted.png", "", "", "", PngRow({{9, 8, 7}}));
+  auto* mask = new MemoryAsset("mask.png", "", "", "", PngRow({{255, 255, 255}}));
+  const char* script = "size rgba 1 1\nclear base\nmap mask.png paint\nassign off\nfinish\n";
+  auto* set = new MemoryAsset("set.sts", "", "", "", script);
+  auto* other = new MemoryAsset("other.sts", "", "", "", script);
+  for (Asset* asset : std::initializer_list<Asset*>{picture, mask, set, other}) am.SetAsset(asset);
 
   const wxImage *first = nullptr, *second = nullptr;
   ASSERT_TRUE(am.LoadImageCached("counted.png", first));
   ASSERT_TRUE(am.LoadImageCached("counted.png", second));
   EXPECT_EQ(first, second);
-  EXPECT_EQ(pictureOpens, 1);
+  EXPECT_EQ(picture->closes, 1);
 
-  const VornBitmapACache *set = nullptr, *again = nullptr, *other = nullptr;
-  ASSERT_TRUE(am.LoadImagesCached("set.sts", set));
+  const VornBitmapACache *cached = nullptr, *again = nullptr, *otherCached = nullptr;
+  ASSERT_TRUE(am.LoadImagesCached("set.sts", cached));
   ASSERT_TRUE(am.LoadImagesCached("set.sts", again));
-  ASSERT_TRUE(am.LoadImagesCached("other.sts", other));
-  EXPECT_EQ(set, again);
-  EXPECT_NE(set, other);
-  EXPECT_EQ(scriptOpens, 2);  // each script once
-  EXPECT_EQ(maskOpens, 1);    // the mask both scripts use: decoded once
+  ASSERT_TRUE(am.LoadImagesCached("other.sts", otherCached));
+  EXPECT_EQ(cached, again);
+  EXPECT_NE(cached, otherCached);
+  EXPECT_EQ(std::make_pair(set->closes, other->closes), std::make_pair(1, 1));
+  EXPECT_EQ(mask->closes, 1);  // the mask both scripts use: decoded once
 
   // After ClearCaches every request loads again.
   am.ClearCaches();
   ASSERT_TRUE(am.LoadImageCached("counted.png", first));
-  ASSERT_TRUE(am.LoadImagesCached("set.sts", set));
-  EXPECT_EQ(std::make_pair(pictureOpens, scriptOpens), std::make_pair(2, 3));
+  ASSERT_TRUE(am.LoadImagesCached("set.sts", cached));
+  EXPECT_EQ(std::make_pair(picture->closes, set->closes), std::make_pair(2, 2));
   EXPECT_EQ(Rgb(*first), "9,8,7");
 
   // A failed load inserts nothing.

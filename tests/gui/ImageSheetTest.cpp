@@ -6,8 +6,7 @@
 #include <memory>
 #include <vector>
 
-#include "GuiTestSupport.h"
-#include "TestSupport.h"
+#include "ControlTestSupport.h"
 #include "vorn/UIFilters.h"
 #include "vorn/VornImageCache.h"
 
@@ -25,81 +24,64 @@ wxBitmap Pattern(int width, int height, int seed) {
   return wxBitmap(image);
 }
 
-::testing::AssertionResult SamePixels(const wxBitmap& a, const wxBitmap& b) {
-  if (a.GetWidth() != b.GetWidth() || a.GetHeight() != b.GetHeight())
-    return ::testing::AssertionFailure() << "sizes " << a.GetWidth() << "x" << a.GetHeight()
-                                         << " and " << b.GetWidth() << "x" << b.GetHeight();
-  const wxImage ia = a.ConvertToImage();
-  const wxImage ib = b.ConvertToImage();
-  for (int y = 0; y < a.GetHeight(); ++y)
-    for (int x = 0; x < a.GetWidth(); ++x)
-      if (ia.GetRed(x, y) != ib.GetRed(x, y) || ia.GetGreen(x, y) != ib.GetGreen(x, y) ||
-          ia.GetBlue(x, y) != ib.GetBlue(x, y))
-        return ::testing::AssertionFailure() << "pixels differ at " << x << "," << y;
-  return ::testing::AssertionSuccess();
-}
-
 // The rectangle of info cut out of its sheet.
 wxBitmap CutOut(const WallpaperImageInfo<wxBitmap>& info) {
-  VornwxBitmapCache cutter;
-  std::unique_ptr<wxBitmap> piece = cutter.MakeImageFromWallpaper(info);
+  std::unique_ptr<wxBitmap> piece = VornwxBitmapCache().MakeImageFromWallpaper(info);
   return piece ? *piece : wxBitmap();
 }
 
-void ExpectPlaced(const WallpaperImageInfo<wxBitmap>& info, int x, int y, int w, int h) {
-  EXPECT_EQ(info.x, x);
-  EXPECT_EQ(info.y, y);
-  EXPECT_EQ(info.width, w);
-  EXPECT_EQ(info.height, h);
+wxRect Placed(const WallpaperImageInfo<wxBitmap>& info) {
+  return wxRect(info.x, info.y, info.width, info.height);
 }
+
 }  // namespace
 
 TEST(ImageSheet, ShelvesFillLeftToRightThenDown) {
   VornwxBitmapWallpaper sheet;
-  EXPECT_EQ(sheet.GetSheet().GetWidth(), 1000);
-  EXPECT_EQ(sheet.GetSheet().GetHeight(), 1000);
-  const wxBitmap a = Pattern(600, 40, 1), b = Pattern(500, 30, 2), c = Pattern(300, 70, 3);
-  const wxBitmap d = Pattern(1000, 10, 4), tooTall = Pattern(10, 900, 5),
-                 fits = Pattern(10, 880, 6);
-  WallpaperImageInfo<wxBitmap> ia, ib, ic, id, ie, ifits;
-  ASSERT_TRUE(sheet.AddImage(&a, ia));
-  ASSERT_TRUE(sheet.AddImage(&b, ib));
-  ASSERT_TRUE(sheet.AddImage(&c, ic));
-  ASSERT_TRUE(sheet.AddImage(&d, id));
-  ExpectPlaced(ia, 0, 0, 600, 40);
-  ExpectPlaced(ib, 0, 40, 500, 30);    // 600 + 500 does not fit on the first shelf
-  ExpectPlaced(ic, 500, 40, 300, 70);  // same shelf; its bottom is now 110
-  ExpectPlaced(id, 0, 110, 1000, 10);  // exactly 1000 wide, alone on its shelf
-  EXPECT_EQ(ia.bitmap, &sheet.GetSheet());
-
-  ie.x = -5;
-  EXPECT_FALSE(sheet.AddImage(&tooTall, ie));  // 120 + 900 > 1000
-  EXPECT_EQ(ie.x, -5);
+  EXPECT_EQ(sheet.GetSheet().GetSize(), wxSize(1000, 1000));
+  // 600 + 500 does not fit on the first shelf; 300 joins 500 on the second,
+  // whose bottom is then 110; 1000 wide is alone on its shelf; the last
+  // one ends exactly at the bottom, 120 + 880.
+  const struct {
+    wxSize size;
+    wxRect placed;
+  } images[] = {{{600, 40}, {0, 0, 600, 40}},
+                {{500, 30}, {0, 40, 500, 30}},
+                {{300, 70}, {500, 40, 300, 70}},
+                {{1000, 10}, {0, 110, 1000, 10}},
+                {{10, 880}, {0, 120, 10, 880}}};
+  std::vector<wxBitmap> bitmaps(5);
+  std::vector<WallpaperImageInfo<wxBitmap>> infos(5);
+  auto add = [&](int i) {
+    bitmaps[i] = Pattern(images[i].size.x, images[i].size.y, i);
+    ASSERT_TRUE(sheet.AddImage(&bitmaps[i], infos[i])) << i;
+    EXPECT_EQ(Placed(infos[i]), images[i].placed) << i;
+    EXPECT_EQ(infos[i].bitmap, &sheet.GetSheet());
+  };
+  for (int i = 0; i < 4; ++i) add(i);
+  // 120 + 900 > 1000: refused, and the info is left alone.
+  const wxBitmap tooTall = Pattern(10, 900, 9);
+  WallpaperImageInfo<wxBitmap> refused;
+  refused.x = -5;
+  EXPECT_FALSE(sheet.AddImage(&tooTall, refused));
+  EXPECT_EQ(refused.x, -5);
   EXPECT_EQ(sheet.NumImages(), 4);
-  ASSERT_TRUE(sheet.AddImage(&fits, ifits));  // 120 + 880 == 1000
-  ExpectPlaced(ifits, 0, 120, 10, 880);
-
+  add(4);
   const wxBitmap oversized = Pattern(1001, 2, 7);
-  EXPECT_FALSE(sheet.AddImage(&oversized, ie));
+  EXPECT_FALSE(sheet.AddImage(&oversized, refused));
   EXPECT_EQ(sheet.NumImages(), 5);
-
-  EXPECT_TRUE(SamePixels(CutOut(ia), a));
-  EXPECT_TRUE(SamePixels(CutOut(ib), b));
-  EXPECT_TRUE(SamePixels(CutOut(ic), c));
-  EXPECT_TRUE(SamePixels(CutOut(id), d));
-  EXPECT_TRUE(SamePixels(CutOut(ifits), fits));
+  for (int i = 0; i < 5; ++i) EXPECT_TRUE(SamePixels(CutOut(infos[i]), bitmaps[i])) << i;
 }
 
 TEST(ImageSheet, HolderOpensANewSheetOrKeepsLargeCopies) {
   WallpaperBitmapHolder holder;
-  const wxBitmap full = Pattern(1000, 1000, 1);
-  const wxBitmap small = Pattern(20, 10, 2);
+  const wxBitmap full = Pattern(1000, 1000, 1), small = Pattern(20, 10, 2);
   WallpaperImageInfo<wxBitmap> info, next;
   ASSERT_TRUE(holder.AddImage(&full, info));
-  ExpectPlaced(info, 0, 0, 1000, 1000);
+  EXPECT_EQ(Placed(info), wxRect(0, 0, 1000, 1000));
   EXPECT_EQ(holder.NumSheets(), 1);
   ASSERT_TRUE(holder.AddImage(&small, next));
-  ExpectPlaced(next, 0, 0, 20, 10);
+  EXPECT_EQ(Placed(next), wxRect(0, 0, 20, 10));
   EXPECT_EQ(holder.NumSheets(), 2);
   EXPECT_NE(next.bitmap, info.bitmap);
   EXPECT_TRUE(SamePixels(CutOut(info), full));
@@ -109,7 +91,7 @@ TEST(ImageSheet, HolderOpensANewSheetOrKeepsLargeCopies) {
     const wxBitmap large = Pattern(size.x, size.y, 3);
     WallpaperImageInfo<wxBitmap> big;
     ASSERT_TRUE(holder.AddImage(&large, big));
-    ExpectPlaced(big, 0, 0, size.x, size.y);
+    EXPECT_EQ(Placed(big), wxRect(wxPoint(0, 0), size));
     ASSERT_NE(big.bitmap, nullptr);
     EXPECT_NE(big.bitmap, &large);
     EXPECT_TRUE(SamePixels(*big.bitmap, large));
@@ -117,22 +99,19 @@ TEST(ImageSheet, HolderOpensANewSheetOrKeepsLargeCopies) {
   EXPECT_EQ(holder.NumLargeImages(), 2);
   EXPECT_EQ(holder.NumSheets(), 2);
 
-  holder.ClearAll();
-  EXPECT_EQ(holder.NumSheets(), 0);
-  EXPECT_EQ(holder.NumLargeImages(), 0);
-}
-
-TEST(ImageSheet, NamedImages) {
-  WallpaperBitmapHolder holder;
+  // Named images: found by exact name, added once.
   const wxBitmap a = Pattern(30, 20, 1);
   WallpaperImageInfo<wxBitmap> placed, found;
   ASSERT_TRUE(holder.AddImage("button", a, placed));
   ASSERT_TRUE(holder.GetImage("button", found));
-  ExpectPlaced(found, placed.x, placed.y, 30, 20);
+  EXPECT_EQ(Placed(found), Placed(placed));
   EXPECT_EQ(found.bitmap, placed.bitmap);
   EXPECT_FALSE(holder.GetImage("Button", found));
   EXPECT_NE(FiredAssertion([&] { holder.AddImage("button", a, placed); }), "");
+
   holder.ClearAll();
+  EXPECT_EQ(holder.NumSheets(), 0);
+  EXPECT_EQ(holder.NumLargeImages(), 0);
   EXPECT_FALSE(holder.GetImage("button", found));
 }
 
@@ -163,15 +142,13 @@ TEST(ImageSheet, CacheFilledFromHolderMatchesTheOriginal) {
   original.GetStates(want);
   filled.GetStates(got);
   EXPECT_EQ(got, want);
-  EXPECT_EQ(filled.GetWidth(), 40);
-  EXPECT_EQ(filled.GetHeight(), 24);
+  EXPECT_EQ(wxSize(filled.GetWidth(), filled.GetHeight()), wxSize(40, 24));
 
   for (int i = 0; i < 4; ++i) {
-    const wxBitmap* cut = nullptr;
+    const wxBitmap *cut = nullptr, *again = nullptr;
     ASSERT_TRUE(filled.GetImage(states[i], cut)) << i;
     EXPECT_NE(cut, &images[i]);
     EXPECT_TRUE(SamePixels(*cut, images[i])) << i;
-    const wxBitmap* again = nullptr;
     filled.GetImage(states[i], again);
     EXPECT_EQ(cut, again) << "cut out once, then kept";
   }
@@ -195,8 +172,7 @@ TEST(ColourDots, SixStatesOfRingAndDot) {
   cache->GetStates(states);
   EXPECT_EQ(states, (std::vector<VORNIMAGETYPE>{VIT_OFF, VIT_ON, VIT_ON_MOUSE_OVER,
                                                 VIT_OFF_MOUSE_OVER, VIT_ON_DOWN, VIT_OFF_DOWN}));
-  EXPECT_EQ(cache->GetWidth(), 21);
-  EXPECT_EQ(cache->GetHeight(), 15);
+  EXPECT_EQ(wxSize(cache->GetWidth(), cache->GetHeight()), wxSize(21, 15));
 
   const struct {
     VORNIMAGETYPE off, on;
@@ -206,19 +182,12 @@ TEST(ColourDots, SixStatesOfRingAndDot) {
                {VIT_OFF_DOWN, VIT_ON_DOWN, *wxBLUE}};
   for (const auto& pair : pairs) {
     const wxBitmap *off = nullptr, *on = nullptr;
-    ASSERT_TRUE(cache->GetImage(pair.off, off));
-    ASSERT_TRUE(cache->GetImage(pair.on, on));
+    ASSERT_TRUE(cache->GetImage(pair.off, off) && cache->GetImage(pair.on, on));
     EXPECT_TRUE(SamePixels(*off, *on));
     EXPECT_EQ(PixelAt(*off, 10, 7), *wxBLACK);  // the centre is the dot
     EXPECT_EQ(PixelAt(*off, 0, 0), *wxWHITE);   // corners stay background
     EXPECT_EQ(PixelAt(*off, 20, 14), *wxWHITE);
-    const wxImage img = off->ConvertToImage();
-    int ringPixels = 0;
-    for (int y = 0; y < 15; ++y)
-      for (int x = 0; x < 21; ++x)
-        ringPixels +=
-            wxColour(img.GetRed(x, y), img.GetGreen(x, y), img.GetBlue(x, y)) == pair.ring;
-    EXPECT_GT(ringPixels, 0);
+    EXPECT_GT(CountNear(*off, pair.ring, 0), 0);
   }
 
   holder.ChangeColour(Color(1, 1, 0));
@@ -234,40 +203,27 @@ TEST(ColourDots, SixStatesOfRingAndDot) {
 }
 
 TEST(UnDoFilter, MirrorsWritesAndTakesThemBack) {
+  const wxColour grey(50, 60, 70);
   wxImage picture(6, 4);
-  picture.SetRGB(wxRect(0, 0, 6, 4), 50, 60, 70);
+  picture.SetRGB(wxRect(0, 0, 6, 4), grey.Red(), grey.Green(), grey.Blue());
   BasicwxImageFilter target(picture);
   wxBitmapUnDoFilter undo(target);
   ASSERT_TRUE(undo.GetBitmap().IsOk());
   EXPECT_EQ(undo.GetWidth(), 6);
-  EXPECT_EQ(PixelAt(undo.GetBitmap(), 5, 3), wxColour(50, 60, 70));
+  EXPECT_TRUE(Uniform(undo.GetBitmap(), grey));
 
   ColorA red(1, 0, 0), blue(0, 0, 1), green(0, 1, 0);
   ASSERT_TRUE(undo.WritePixel(1, 1, red));
   ASSERT_TRUE(undo.WritePixelI(2, 1, green, 0.5));
   ASSERT_TRUE(undo.WritePixel(1, 1, blue));
   EXPECT_FALSE(undo.WritePixel(6, 0, red));
-  const wxColour blended(picture.GetRed(2, 1), picture.GetGreen(2, 1), picture.GetBlue(2, 1));
-  EXPECT_EQ(blended, wxColour(25, 158, 35));
-  EXPECT_EQ(wxColour(picture.GetRed(1, 1), picture.GetGreen(1, 1), picture.GetBlue(1, 1)), *wxBLUE);
-  const wxImage mirror = undo.GetBitmap().ConvertToImage();
-  for (int y = 0; y < 4; ++y)
-    for (int x = 0; x < 6; ++x)
-      EXPECT_EQ(wxColour(mirror.GetRed(x, y), mirror.GetGreen(x, y), mirror.GetBlue(x, y)),
-                wxColour(picture.GetRed(x, y), picture.GetGreen(x, y), picture.GetBlue(x, y)))
-          << x << "," << y;
+  EXPECT_EQ(ImagePixel(picture, 2, 1), wxColour(25, 158, 35));
+  EXPECT_EQ(ImagePixel(picture, 1, 1), *wxBLUE);
+  EXPECT_TRUE(SamePixels(undo.GetBitmap(), wxBitmap(picture)));  // the mirror
 
   ASSERT_TRUE(undo.UnDo());
-  const wxImage restored = undo.GetBitmap().ConvertToImage();
-  for (int y = 0; y < 4; ++y)
-    for (int x = 0; x < 6; ++x) {
-      EXPECT_EQ(wxColour(picture.GetRed(x, y), picture.GetGreen(x, y), picture.GetBlue(x, y)),
-                wxColour(50, 60, 70))
-          << x << "," << y;
-      EXPECT_EQ(wxColour(restored.GetRed(x, y), restored.GetGreen(x, y), restored.GetBlue(x, y)),
-                wxColour(50, 60, 70))
-          << x << "," << y;
-    }
+  EXPECT_TRUE(Uniform(wxBitmap(picture), grey));
+  EXPECT_TRUE(Uniform(undo.GetBitmap(), grey));
 
   // Initialize forgets earlier writes: they survive a later UnDo.
   undo.WritePixel(0, 0, red);
@@ -275,6 +231,6 @@ TEST(UnDoFilter, MirrorsWritesAndTakesThemBack) {
   undo.WritePixel(5, 3, green);
   undo.UnDo();
   EXPECT_EQ(PixelAt(undo.GetBitmap(), 0, 0), *wxRED);
-  EXPECT_EQ(PixelAt(undo.GetBitmap(), 5, 3), wxColour(50, 60, 70));
+  EXPECT_EQ(PixelAt(undo.GetBitmap(), 5, 3), grey);
   EXPECT_EQ(picture.GetRed(0, 0), 255);
 }
