@@ -8,17 +8,6 @@
 
 namespace {
 
-struct Flags {
-  bool on, enabled, over, down;
-};
-
-// Puts a button into the given state through real events.
-void Apply(VornControl& control, const Flags& f) {
-  if (f.over) Mouse(&control, wxEVT_ENTER_WINDOW);
-  if (f.down) Mouse(&control, wxEVT_LEFT_DOWN);
-  if (!f.enabled) control.SetEnabled(false);
-}
-
 // Per column, the number of pixels that differ from the background.
 std::vector<int> InkPerColumn(const wxBitmap& bmp, const wxColour& background) {
   const wxImage image = bmp.ConvertToImage();
@@ -35,29 +24,30 @@ class ButtonDrawTest : public ::testing::Test {
 
 TEST_F(ButtonDrawTest, DrawsTheStateImageOrItsFallback) {
   const struct {
-    Flags flags;
+    bool on;
+    const char* events;
     VORNIMAGETYPE full;     // drawn with every state image
     VORNIMAGETYPE partial;  // drawn with only the plain off and on images
   } states[] = {
-      {{false, true, false, false}, VIT_OFF, VIT_OFF},
-      {{false, true, true, false}, VIT_OFF_MOUSE_OVER, VIT_OFF},
-      {{false, true, true, true}, VIT_OFF_DOWN, VIT_OFF},
-      {{false, true, false, true}, VIT_OFF_DOWN, VIT_OFF},
-      {{true, true, false, false}, VIT_ON, VIT_ON},
-      {{true, true, true, false}, VIT_ON_MOUSE_OVER, VIT_ON},
-      {{true, true, true, true}, VIT_ON_DOWN, VIT_ON},
-      {{false, false, true, false}, VIT_DISABLED_OFF, VIT_OFF},
-      {{true, false, false, false}, VIT_DISABLED_ON, VIT_ON},
+      {false, "", VIT_OFF, VIT_OFF},
+      {false, "enter", VIT_OFF_MOUSE_OVER, VIT_OFF},
+      {false, "enter down", VIT_OFF_DOWN, VIT_OFF},
+      {false, "down", VIT_OFF_DOWN, VIT_OFF},
+      {true, "", VIT_ON, VIT_ON},
+      {true, "enter", VIT_ON_MOUSE_OVER, VIT_ON},
+      {true, "enter down", VIT_ON_DOWN, VIT_ON},
+      {false, "enter disable", VIT_DISABLED_OFF, VIT_OFF},
+      {true, "disable", VIT_DISABLED_ON, VIT_ON},
   };
   auto full = MakeCache(AllStates());
   auto partial = MakeCache({VIT_OFF, VIT_ON});
   for (const auto& c : states) {
     for (bool usePartial : {false, true}) {
-      SCOPED_TRACE(testing::Message() << "state " << c.full << (usePartial ? " partial" : ""));
+      SCOPED_TRACE(testing::Message() << c.events << (usePartial ? " partial" : ""));
       // The base button keeps the on flag as set: no click reaction flips it.
       VornButton button(usePartial ? partial.get() : full.get(), 0, 0, frame.Get(), 1, nullptr);
-      button.SetOn(c.flags.on);
-      Apply(button, c.flags);
+      button.SetOn(c.on);
+      Do(&button, c.events);
       button.RecalcState();
       EXPECT_EQ(c.full, button.GetState());
       EXPECT_TRUE(Uniform(Render(&button, 24, 16), StateColour(usePartial ? c.partial : c.full)));
@@ -84,7 +74,7 @@ TEST_F(ButtonDrawTest, CopiesTheRectangleFromASharedSheet) {
   EXPECT_TRUE(Uniform(Render(&toggle, 24, 16), StateColour(VIT_OFF)));
   Click(&toggle);
   EXPECT_TRUE(Uniform(Render(&toggle, 24, 16), StateColour(VIT_ON_MOUSE_OVER)));
-  Mouse(&toggle, wxEVT_LEFT_DOWN);
+  Do(&toggle, "down");
   EXPECT_TRUE(Uniform(Render(&toggle, 24, 16), StateColour(VIT_ON_DOWN)));
 }
 
@@ -115,7 +105,7 @@ TEST_F(ButtonDrawTest, TextPushButtonDrawsItsFaceAndLabel) {
   EXPECT_EQ(back, PixelAt(shot, 89, 23));
   EXPECT_GT(CountNear(shot, text, 10), 8);
   EXPECT_EQ(0, CountNear(shot, hover, 10));
-  Mouse(&plain, wxEVT_ENTER_WINDOW);
+  Do(&plain, "enter");
   shot = Render(&plain, 90, 24);
   EXPECT_GT(CountNear(shot, hover, 10), 8);
   // Centred: the label's ink is balanced around the middle.
@@ -127,19 +117,16 @@ TEST_F(ButtonDrawTest, TextPushButtonDrawsItsFaceAndLabel) {
 
   // With images the state image is the whole face.
   auto cache = MakeCache({VIT_OFF, VIT_OFF_MOUSE_OVER, VIT_OFF_DOWN, VIT_ON}, 90, 24);
-  const struct {
-    Flags flags;
-    VORNIMAGETYPE state;
-  } cases[] = {{{false, true, false, false}, VIT_OFF},
-               {{false, true, true, false}, VIT_OFF_MOUSE_OVER},
-               {{false, true, true, true}, VIT_OFF_DOWN},
-               {{false, false, false, false}, VIT_OFF}};
-  for (const auto& c : cases) {
+  const std::pair<const char*, VORNIMAGETYPE> cases[] = {{"", VIT_OFF},
+                                                         {"enter", VIT_OFF_MOUSE_OVER},
+                                                         {"enter down", VIT_OFF_DOWN},
+                                                         {"disable", VIT_OFF}};
+  for (const auto& [events, state] : cases) {
     VornTextPushButton b("", -1, -1, *wxNORMAL_FONT, text, back, hover, cache.get(), 0, 30,
                          frame.Get(), 3, nullptr);
     EXPECT_EQ(90, b.GetWidth());
-    Apply(b, c.flags);
-    EXPECT_TRUE(Uniform(Render(&b, 90, 24), StateColour(c.state))) << c.state;
+    Do(&b, events);
+    EXPECT_TRUE(Uniform(Render(&b, 90, 24), StateColour(state))) << events;
   }
 }
 

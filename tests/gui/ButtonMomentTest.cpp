@@ -46,27 +46,26 @@ class ButtonMomentTest : public ::testing::Test {
 };
 
 TEST_F(ButtonMomentTest, PressStartsTheTimerAndOnlyAReleaseOverItUnselects) {
-  Mouse(&button, wxEVT_ENTER_WINDOW);
-  Mouse(&button, wxEVT_LEFT_DOWN);
+  Do(&button, "enter down");
   EXPECT_EQ((EventLog{"sel 6", "first 6"}), log);
   VornButtonTimer* timer = button.GetTimer();
   EXPECT_TRUE(timer->IsRunning() && timer->IsOneShot() && timer->GetFirstTick());
   EXPECT_EQ(kDelay, timer->GetInterval());
   log.clear();
-  Mouse(&button, wxEVT_LEFT_UP);
+  Do(&button, "up");
   EXPECT_EQ((EventLog{"unsel 6"}), log);
   EXPECT_FALSE(timer->IsRunning());
 
   // Released away from the button: no unselection.
-  Mouse(&button, wxEVT_LEFT_DOWN);
+  Do(&button, "down");
   log.clear();
-  Mouse(&button, wxEVT_LEAVE_WINDOW);
+  Do(&button, "leave");
   EXPECT_TRUE(log.empty());
   EXPECT_FALSE(timer->IsRunning());
 }
 
 TEST_F(ButtonMomentTest, RepeatsOncePerIntervalPlusOneAndCarriesTheRemainder) {
-  Mouse(&button, wxEVT_LEFT_DOWN);
+  Do(&button, "down");
   EXPECT_EQ(1, Tick(kDelay));  // first tick: count 0
   EXPECT_FALSE(button.GetTimer()->GetFirstTick());
   EXPECT_EQ(kInterval, button.GetTimer()->GetInterval());
@@ -83,8 +82,7 @@ TEST_F(ButtonMomentTest, RepeatsOncePerIntervalPlusOneAndCarriesTheRemainder) {
     EXPECT_EQ(t.remainder, button.GetTimer()->GetRemainder()) << t.ms;
   }
   // The remainder survives the next press; its first tick counts nothing.
-  Mouse(&button, wxEVT_LEFT_UP);
-  Mouse(&button, wxEVT_LEFT_DOWN);
+  Do(&button, "up down");
   EXPECT_EQ(1, Tick(kDelay));
   EXPECT_EQ(40, button.GetTimer()->GetRemainder());
   EXPECT_EQ(2, Tick(60));
@@ -92,7 +90,7 @@ TEST_F(ButtonMomentTest, RepeatsOncePerIntervalPlusOneAndCarriesTheRemainder) {
 }
 
 TEST_F(ButtonMomentTest, DisablingStopsTheRepeatAndNoGroupMeansNoNotifications) {
-  Mouse(&button, wxEVT_LEFT_DOWN);
+  Do(&button, "down");
   EXPECT_EQ(1, Tick(kDelay));
   EXPECT_TRUE(button.GetTimer()->IsRunning());
   button.SetEnabled(false);
@@ -101,7 +99,7 @@ TEST_F(ButtonMomentTest, DisablingStopsTheRepeatAndNoGroupMeansNoNotifications) 
 
   VornMomentBtn lone(cache.get(), 30, 0, frame.Get(), 7, nullptr, 0, kDelay, kInterval);
   lone.GetTimer()->SetClock([] { return 1000L; });
-  Mouse(&lone, wxEVT_LEFT_DOWN);
+  Do(&lone, "down");
   EXPECT_TRUE(lone.GetTimer()->IsRunning());
   lone.GetTimer()->Notify();
   lone.GetTimer()->Notify();
@@ -114,7 +112,7 @@ TEST_F(ButtonMomentTest, TheRealTimerRepeatsWhileHeld) {
   button.GetTimer()->SetClock(nullptr);
   button.SetInitialDelay(1);
   button.SetRepeatInterval(1);
-  Mouse(&button, wxEVT_LEFT_DOWN);
+  Do(&button, "down");
   log.clear();
   // The suite runs without a main loop, so one is activated to deliver the
   // timer's events.
@@ -123,7 +121,7 @@ TEST_F(ButtonMomentTest, TheRealTimerRepeatsWhileHeld) {
   for (int i = 0; i < 500 && log.size() < 4; ++i) loop.DispatchTimeout(10);
   ASSERT_GE(log.size(), 4u);
   EXPECT_EQ((EventLog{"sel 6", "repeat 6"}), EventLog(log.begin(), log.begin() + 2));
-  Mouse(&button, wxEVT_LEFT_UP);
+  Do(&button, "up");
   EXPECT_FALSE(button.GetTimer()->IsRunning());
 }
 

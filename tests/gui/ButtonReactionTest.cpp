@@ -15,62 +15,78 @@ class ButtonReactionTest : public ::testing::Test {
   std::unique_ptr<VornwxBitmapCache> cache = MakeCache(AllStates());
 
   void SetUp() override { group.Register(&hints); }
+  // Clears the log, sends the events and returns what was logged.
+  std::string Events(VornControl* control, const char* events) {
+    log.clear();
+    Do(control, events);
+    return Joined(log);
+  }
   void TearDown() override { group.DeRegister(&hints); }
 };
 
-TEST_F(ButtonReactionTest, BaseButtonOnlyFollowsTheMouseAndPrintsDebugLines) {
-  VornButton button(cache.get(), 0, 0, frame.Get(), 7, &group);
-  EXPECT_EQ(std::make_pair(24, 16), std::make_pair(button.GetWidth(), button.GetHeight()));
-  CaptureDprintf lines;
-  Mouse(&button, wxEVT_LEFT_DOWN);
-  EXPECT_TRUE(button.GetButtonDown());
-  Mouse(&button, wxEVT_LEFT_UP);
-  EXPECT_FALSE(button.GetButtonDown());
-  EXPECT_EQ((EventLog{"button - mouse down\n", "button - mouse up\n"}), lines.Lines());
-  EXPECT_TRUE(log.empty());
-  EXPECT_FALSE(button.GetOn());
-}
-
-TEST_F(ButtonReactionTest, PushButtonUnselectsOnlyWhenReleasedOverIt) {
-  VornPushButton push(cache.get(), 0, 0, frame.Get(), 3, &group);
-  Click(&push);
-  EXPECT_EQ((EventLog{"sel 3", "unsel 3"}), log);
-
-  // Released outside: leaving clears the press, and the pointer is gone.
-  log.clear();
-  Mouse(&push, wxEVT_LEFT_DOWN);
-  Mouse(&push, wxEVT_LEAVE_WINDOW);
-  EXPECT_FALSE(push.GetMouseDown() || push.GetOn());
-  EXPECT_EQ((EventLog{"sel 3"}), log);
-}
-
-TEST_F(ButtonReactionTest, ToggleFlipsOnReleaseAndReportsTheValue) {
-  VornButtonToggle toggle(cache.get(), 0, 0, frame.Get(), 4, &group);
-  Mouse(&toggle, wxEVT_LEFT_DOWN);
-  EXPECT_TRUE(log.empty());
-  EXPECT_FALSE(toggle.GetOn());
-  Mouse(&toggle, wxEVT_LEFT_UP);
-  EXPECT_TRUE(toggle.GetOn());
-  EXPECT_EQ((EventLog{"sel 4", "int 1 4"}), log);
-  log.clear();
-  Click(&toggle);
-  EXPECT_FALSE(toggle.GetOn());
-  EXPECT_EQ((EventLog{"unsel 4", "int 0 4"}), log);
-
-  // Released outside without the capture it still flips.
-  log.clear();
-  Mouse(&toggle, wxEVT_LEFT_DOWN);
-  Mouse(&toggle, wxEVT_LEAVE_WINDOW);
-  EXPECT_TRUE(toggle.GetOn());
-  EXPECT_EQ((EventLog{"sel 4", "int 1 4"}), log);
-
-  // The right button counts as a press too: nothing flips while it is held.
-  Mouse(&toggle, wxEVT_LEFT_DOWN);
-  Mouse(&toggle, wxEVT_RIGHT_DOWN);
-  Mouse(&toggle, wxEVT_LEFT_UP);
-  EXPECT_TRUE(toggle.GetOn());
-  Mouse(&toggle, wxEVT_RIGHT_UP);
-  EXPECT_FALSE(toggle.GetOn());
+TEST_F(ButtonReactionTest, EachKindNotifiesItsGroup) {
+  enum Kind { kBase, kPush, kTextPush, kToggle, kLoneToggle, kLoneRadio };
+  const struct {
+    Kind kind;
+    const char *events, *log;
+    bool on, held;
+  } cases[] = {
+      {kBase, "enter down up", "", false, false},  // follows the mouse only
+      {kPush, "enter down up", "sel 3 unsel 3", false, false},
+      // Released outside: leaving clears the press, and the pointer is gone.
+      {kPush, "enter down leave", "sel 3", false, false},
+      {kTextPush, "enter down up", "sel 3 unsel 3", false, false},
+      {kToggle, "down", "", false, true},
+      {kToggle, "down up", "sel 3 int 1 3", true, false},
+      {kToggle, "down up down up", "sel 3 int 1 3 unsel 3 int 0 3", false, false},
+      // Released outside without the capture it still flips.
+      {kToggle, "enter down leave", "sel 3 int 1 3", true, false},
+      // The right button counts as a press too.
+      {kToggle, "down rdown up", "", false, true},
+      {kToggle, "down rdown up rup", "sel 3 int 1 3", true, false},
+      {kToggle, "disable enter down up", "", false, false},
+      {kPush, "disable enter down up", "", false, false},
+      // Without a group they still follow the mouse.
+      {kLoneToggle, "enter down up", "", true, false},
+      {kLoneRadio, "enter down up", "", true, false},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(testing::Message() << "kind " << c.kind << ": " << c.events);
+    std::unique_ptr<VornControl> control;
+    wxWindow* parent = frame.Get();
+    switch (c.kind) {
+      case kBase:
+        control = std::make_unique<VornButton>(cache.get(), 0, 0, parent, 3, &group);
+        break;
+      case kPush:
+        control = std::make_unique<VornPushButton>(cache.get(), 0, 0, parent, 3, &group);
+        break;
+      case kTextPush:
+        control =
+            std::make_unique<VornTextPushButton>("Apply", -1, -1, *wxNORMAL_FONT, *wxWHITE,
+                                                 *wxBLACK, *wxRED, 0, 0, 80, 20, parent, 3, &group);
+        break;
+      case kToggle:
+        control = std::make_unique<VornButtonToggle>(cache.get(), 0, 0, parent, 3, &group);
+        break;
+      case kLoneToggle:
+        control = std::make_unique<VornButtonToggle>(cache.get(), 0, 0, parent, 3, nullptr);
+        break;
+      case kLoneRadio:
+        control = std::make_unique<VornRadioButton>(cache.get(), 0, 0, parent, 3, nullptr);
+        break;
+    }
+    log.clear();
+    CaptureDprintf debug;
+    Do(control.get(), c.events);
+    EXPECT_EQ(Joined(log), c.log);
+    auto* button = dynamic_cast<VornButton*>(control.get());
+    EXPECT_EQ(button && button->GetOn(), c.on);
+    EXPECT_EQ(control->GetMouseDown(), c.held);
+    if (c.kind == kBase) {
+      EXPECT_EQ(debug.Lines(), EventLog({"button - mouse down\n", "button - mouse up\n"}));
+    }
+  }
 }
 
 TEST_F(ButtonReactionTest, ThreeRadiosKeepOneOn) {
@@ -80,78 +96,38 @@ TEST_F(ButtonReactionTest, ThreeRadiosKeepOneOn) {
   a.SetOn(true);
   c.SetOn(true);
 
-  Mouse(&b, wxEVT_LEFT_DOWN);
-  EXPECT_TRUE(log.empty());  // nothing happens on press
-  Mouse(&b, wxEVT_LEFT_UP);
+  EXPECT_EQ(Events(&b, "down"), "");  // nothing happens on press
+  EXPECT_EQ(Events(&b, "up"), "sel 2");
   EXPECT_EQ(std::vector<bool>({a.GetOn(), b.GetOn(), c.GetOn()}),
             std::vector<bool>({false, true, false}));
   EXPECT_EQ(2u, group.GetSelected());
-  EXPECT_EQ((EventLog{"sel 2"}), log);
-
-  // A radio that is on ignores a click ...
-  log.clear();
-  Click(&b);
+  // A radio that is on ignores a click, unless it may toggle off.
+  EXPECT_EQ(Events(&b, "enter down up"), "");
   EXPECT_TRUE(b.GetOn());
-  EXPECT_TRUE(log.empty());
-  // ... unless it may toggle off.
   b.SetToggle(true);
-  Click(&b);
+  EXPECT_EQ(Events(&b, "enter down up"), "unsel 2");
   EXPECT_FALSE(b.GetOn());
-  EXPECT_EQ((EventLog{"unsel 2"}), log);
-
-  log.clear();
-  Click(&c);
+  EXPECT_EQ(Events(&c, "enter down up"), "sel 3");
   EXPECT_EQ(3u, group.GetSelected());
-  EXPECT_EQ((EventLog{"sel 3"}), log);
 }
 
-TEST_F(ButtonReactionTest, DisabledOrGrouplessButtons) {
-  VornButtonToggle toggle(cache.get(), 0, 0, frame.Get(), 4, &group);
-  VornPushButton push(cache.get(), 30, 0, frame.Get(), 5, &group);
-  toggle.SetEnabled(false);
-  push.SetEnabled(false);
-  Click(&toggle);
-  Click(&push);
-  EXPECT_FALSE(toggle.GetOn());
-
-  // Without a group they still follow the mouse.
-  VornButtonToggle lone(cache.get(), 0, 30, frame.Get(), 4, nullptr);
-  VornRadioButton radio(cache.get(), 30, 30, frame.Get(), 5, nullptr);
-  Mouse(&lone, wxEVT_LEFT_DOWN);
-  lone.RecalcState();
-  EXPECT_EQ(VIT_OFF_DOWN, lone.GetState());
-  Mouse(&lone, wxEVT_LEFT_UP);
-  Click(&radio);
-  EXPECT_TRUE(lone.GetOn() && radio.GetOn());
-  EXPECT_TRUE(log.empty());
-}
-
-TEST_F(ButtonReactionTest, TextButtonsReactAsPushAndRadioButtons) {
-  VornTextPushButton push("Apply", -1, -1, *wxNORMAL_FONT, *wxWHITE, *wxBLACK, *wxRED, 0, 0, 80, 20,
-                          frame.Get(), 8, &group);
-  Click(&push);
-  EXPECT_EQ((EventLog{"sel 8", "unsel 8"}), log);
-
-  log.clear();
+TEST_F(ButtonReactionTest, TextRadioButtonsReactAsRadios) {
   VornTextRadioButton one(cache.get(), "One", "1", *wxNORMAL_FONT, *wxWHITE, *wxGREEN, *wxRED, 0,
                           30, frame.Get(), 11, &group);
   VornTextRadioButton two(cache.get(), "Two", "", *wxNORMAL_FONT, *wxWHITE, *wxGREEN, *wxRED, 0, 60,
                           frame.Get(), 12, &group);
-  Click(&one);
-  Click(&two);
+  EXPECT_EQ(Events(&one, "enter down up leave"), "sel 11");
+  EXPECT_EQ(Events(&two, "enter down up"), "sel 12");
   EXPECT_FALSE(one.GetOn());
-  Click(&two);
-  EXPECT_TRUE(two.GetOn());
+  EXPECT_EQ(Events(&two, "enter down up"), "");
   two.SetToggle(true);
-  Click(&two);
+  EXPECT_EQ(Events(&two, "enter down up"), "unsel 12");
   EXPECT_FALSE(two.GetOn());
-  EXPECT_EQ((EventLog{"sel 11", "sel 12", "unsel 12"}), log);
 
   // The label colour follows the on and mouse-over states.
   EXPECT_EQ(*wxRED, two.GetTextColour());  // still under the pointer
-  Mouse(&two, wxEVT_LEAVE_WINDOW);
+  Do(&two, "leave");
   EXPECT_EQ(*wxWHITE, two.GetTextColour());
-  Mouse(&one, wxEVT_LEAVE_WINDOW);
   one.SetOn(true);
   EXPECT_EQ(*wxGREEN, one.GetTextColour());
 }
@@ -237,7 +213,7 @@ TEST_F(ButtonReactionTest, ButtonsAndGroupsDieInEitherOrder) {
   early.reset();
   EXPECT_EQ(nullptr, radio->GetGroup());
   Click(radio);  // no group left to report to
-  Mouse(moment, wxEVT_LEFT_DOWN);
+  Do(moment, "down");
   EXPECT_TRUE(radio->GetOn());
   EXPECT_TRUE(moment->GetTimer()->IsRunning());
   delete radio;

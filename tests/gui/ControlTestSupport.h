@@ -7,7 +7,9 @@
 
 #include <cstdlib>
 #include <functional>
+#include <map>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -144,12 +146,19 @@ inline void Mouse(wxWindow* window, wxEventType type, int x = 4, int y = 4, bool
   window->GetEventHandler()->ProcessEvent(event);
 }
 
-// Enter, press and release inside the window.
-inline void Click(wxWindow* window) {
-  Mouse(window, wxEVT_ENTER_WINDOW);
-  Mouse(window, wxEVT_LEFT_DOWN);
-  Mouse(window, wxEVT_LEFT_UP);
+// Sends the mouse events of a space-separated list: enter, leave, down, up,
+// rdown, rup; "disable" disables the control instead.
+inline void Do(VornControl* control, const std::string& events, int x = 4, int y = 4) {
+  static const std::map<std::string, wxEventType> kTypes = {
+      {"enter", wxEVT_ENTER_WINDOW}, {"leave", wxEVT_LEAVE_WINDOW}, {"down", wxEVT_LEFT_DOWN},
+      {"up", wxEVT_LEFT_UP},         {"rdown", wxEVT_RIGHT_DOWN},   {"rup", wxEVT_RIGHT_UP}};
+  std::istringstream in(events);
+  for (std::string e; in >> e;)
+    e == "disable" ? control->SetEnabled(false) : Mouse(control, kTypes.at(e), x, y);
 }
+
+// Enter, press and release inside the control.
+inline void Click(VornControl* control) { Do(control, "enter down up"); }
 
 // The condition text and function of the assertion f fires, or two empty
 // strings.
