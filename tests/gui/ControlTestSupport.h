@@ -158,7 +158,9 @@ inline void Do(VornControl* control, const std::string& events, int x = 4, int y
 }
 
 // Enter, press and release inside the control.
-inline void Click(VornControl* control) { Do(control, "enter down up"); }
+inline void Click(VornControl* control) {
+  Do(control, "enter down up");
+}
 
 // The condition text and function of the assertion f fires, or two empty
 // strings.
@@ -241,19 +243,24 @@ inline int CountNear(const wxBitmap& bmp, const wxColour& c, int tolerance) {
   return n;
 }
 
+// The log's entries separated by spaces.
+inline std::string Joined(const EventLog& log) {
+  std::string s;
+  for (const std::string& entry : log) s += (s.empty() ? "" : " ") + entry;
+  return s;
+}
+
 // The mouse flags of a window or windowless control, e.g. "over left down B meta".
 template <class C>
 std::string MouseFlags(const C& c) {
-  std::string s;
-  for (const auto& [set, name] : {std::pair{c.GetMouseOver(), "over"},
-                                  {c.GetMouseDownLeft(), "left"},
-                                  {c.GetMouseDownRight(), "right"},
-                                  {c.GetMouseDown(), "down"},
-                                  {c.GetMetaA(), "A"},
-                                  {c.GetMetaB(), "B"},
-                                  {c.GetMetaKey(), "meta"}})
-    if (set) s += s.empty() ? name : std::string(" ") + name;
-  return s;
+  const bool set[] = {c.GetMouseOver(), c.GetMouseDownLeft(), c.GetMouseDownRight(),
+                      c.GetMouseDown(), c.GetMetaA(),         c.GetMetaB(),
+                      c.GetMetaKey()};
+  const char* names[] = {"over", "left", "right", "down", "A", "B", "meta"};
+  EventLog flags;
+  for (int i = 0; i < 7; ++i)
+    if (set[i]) flags.push_back(names[i]);
+  return Joined(flags);
 }
 
 // The last pointer and press positions: "mouse 3,4 down 3,4".
@@ -264,11 +271,4 @@ std::string Positions(C& c) {
   c.GetLastDownPos(dx, dy);
   return "mouse " + std::to_string(mx) + "," + std::to_string(my) + " down " + std::to_string(dx) +
          "," + std::to_string(dy);
-}
-
-// The log's entries separated by spaces.
-inline std::string Joined(const EventLog& log) {
-  std::string s;
-  for (const std::string& entry : log) s += (s.empty() ? "" : " ") + entry;
-  return s;
 }
