@@ -5,6 +5,10 @@
 set -euo pipefail
 build_dir=$1
 consumer_src=$2
+# The consumer is built the way the toolkit was: a minimal machine may have
+# ninja but no make.
+generator=${3:-Ninja}
+cxx=${4:-c++}
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 prefix=$work/prefix
@@ -12,7 +16,8 @@ prefix=$work/prefix
 cmake --install "$build_dir" --prefix "$prefix" >/dev/null
 
 # 1. CMake package.
-cmake -S "$consumer_src" -B "$work/cmake-build" -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
+cmake -S "$consumer_src" -B "$work/cmake-build" -G "$generator" -DCMAKE_CXX_COMPILER="$cxx" \
+  -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
 cmake --build "$work/cmake-build" >/dev/null
 out=$("$work/cmake-build/vorn_consumer")
 echo "find_package consumer: $out"
@@ -20,7 +25,7 @@ echo "find_package consumer: $out"
 
 # 2. pkg-config.
 export PKG_CONFIG_PATH="$prefix/lib/pkgconfig:$prefix/lib/x86_64-linux-gnu/pkgconfig:${PKG_CONFIG_PATH:-}"
-g++ -std=c++17 -o "$work/pc_consumer" "$consumer_src/consumer.cpp" $(pkg-config --cflags --libs vorn)
+"$cxx" -std=c++17 -o "$work/pc_consumer" "$consumer_src/consumer.cpp" $(pkg-config --cflags --libs vorn)
 out=$("$work/pc_consumer")
 echo "pkg-config consumer: $out"
 [ "$out" = "consumer ok" ]
