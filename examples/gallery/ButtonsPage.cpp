@@ -201,14 +201,14 @@ class ButtonsPage : public GalleryPage, public MessageReceiver {
     const VornwxBitmapCache* images = m_ctx.Images("button_toggle.sts");
     const int y = Centre(row, 20);
     int x = kFirstX;
-    struct Spec {
+    struct Row {
       unsigned int id;
       bool on, enabled;
       const char* caption;
     };
-    for (const Spec& s : {Spec{kToggleA, false, true, "Off"}, Spec{kToggleB, true, true, "On"},
-                          Spec{kToggleOff, false, false, "Disabled"},
-                          Spec{kToggleOffOn, true, false, "Disabled"}}) {
+    for (const Row& s : {Row{kToggleA, false, true, "Off"}, Row{kToggleB, true, true, "On"},
+                          Row{kToggleOff, false, false, "Disabled"},
+                          Row{kToggleOffOn, true, false, "Disabled"}}) {
       auto* toggle = Show(new VornButtonToggle(images, x, y, this, s.id, &m_group), row, s.caption);
       toggle->SetOn(s.on);
       toggle->SetEnabled(s.enabled);
@@ -305,13 +305,13 @@ class ButtonsPage : public GalleryPage, public MessageReceiver {
     const wxColour face = m_ctx.Colour("face");
     const int y = Centre(row, 24);
     int x = kFirstX;
-    struct Spec {
+    struct Row {
       unsigned int id;
       const char* label;
       bool enabled;
     };
-    for (const Spec& s : {Spec{kTextOk, "OK", true}, Spec{kTextCancel, "Cancel", true},
-                          Spec{kTextApply, "Apply", true}, Spec{kTextClose, "Close", false}}) {
+    for (const Row& s : {Row{kTextOk, "OK", true}, Row{kTextCancel, "Cancel", true},
+                          Row{kTextApply, "Apply", true}, Row{kTextClose, "Close", false}}) {
       auto* b = Show(new VornTextPushButton(Utf8(m_ctx.Msg(s.label)), -1, -1, font, text, face,
                                             bright, images, x, y, this, s.id, &m_group),
                      row, s.enabled ? nullptr : "Disabled");
