@@ -331,6 +331,12 @@ class VornTextRadioButton : public VornButton {
   // The label colour for the current flags.
   wxColour GetTextColour() const;
 
+ private:
+  // The labels and colours both public constructors store before creating.
+  VornTextRadioButton(VornControlGroup1ofN* group, const VornString& text, const VornString& text2,
+                      const wxFont& font, const wxColour& offColour, const wxColour& onColour,
+                      const wxColour& overColour);
+
  protected:
   VornControlGroup1ofN* m_pGroup1ofN = nullptr;  // not owned
   bool m_bToggle = false;

@@ -659,18 +659,24 @@ void VornTextPushButton::OnDraw(wxDC* dc) {
 
 // ---- VornTextRadioButton ---------------------------------------------------
 
-VornTextRadioButton::VornTextRadioButton(const VornwxBitmapCache* cache, const VornString& text,
+VornTextRadioButton::VornTextRadioButton(VornControlGroup1ofN* group, const VornString& text,
                                          const VornString& text2, const wxFont& font,
                                          const wxColour& offColour, const wxColour& onColour,
-                                         const wxColour& overColour, int x, int y, wxWindow* parent,
-                                         int id, VornControlGroup1ofN* group, long style)
+                                         const wxColour& overColour)
     : m_pGroup1ofN(group),
       m_text(text),
       m_text2(text2),
       m_font(font),
       m_offColour(offColour),
       m_onColour(onColour),
-      m_overColour(overColour) {
+      m_overColour(overColour) {}
+
+VornTextRadioButton::VornTextRadioButton(const VornwxBitmapCache* cache, const VornString& text,
+                                         const VornString& text2, const wxFont& font,
+                                         const wxColour& offColour, const wxColour& onColour,
+                                         const wxColour& overColour, int x, int y, wxWindow* parent,
+                                         int id, VornControlGroup1ofN* group, long style)
+    : VornTextRadioButton(group, text, text2, font, offColour, onColour, overColour) {
   VornButton::Create(cache, x, y, parent, id, group, style);
 }
 
@@ -680,13 +686,7 @@ VornTextRadioButton::VornTextRadioButton(const VornwxBitmapCache* cache, const V
                                          const wxColour& overColour, int x, int y, int w, int h,
                                          wxWindow* parent, int id, VornControlGroup1ofN* group,
                                          long style)
-    : m_pGroup1ofN(group),
-      m_text(text),
-      m_text2(text2),
-      m_font(font),
-      m_offColour(offColour),
-      m_onColour(onColour),
-      m_overColour(overColour) {
+    : VornTextRadioButton(group, text, text2, font, offColour, onColour, overColour) {
   VornButton::Create(cache, x, y, w, h, parent, id, group, style);
 }
 
