@@ -18,4 +18,5 @@
 #include "vorn/VornControlGroup.h"
 #include "vorn/VornGLTextureCache.h"
 #include "vorn/VornImageCache.h"
+#include "vorn/VornValueNotify.h"
 #include "vorn/VornWindow.h"
