@@ -3,6 +3,7 @@
 // broken script is caught before a program shows its error colours.
 //
 //   vorn-sts [options] SKINDIR [SCRIPT...]
+//   vorn-sts --check [--messages NAME]... SKINDIR
 //
 // Without SCRIPT every .sts and .lbs script the skin offers for the chosen
 // platform and language is rendered. The exit status is 0 when every script
@@ -15,12 +16,14 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <iostream>
 #include <memory>
 #include <set>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "SkinCheck.h"
 #include "vorn/AssetManager.h"
 #include "vorn/FileAsset.h"
 #include "vorn/ImageScriptParser.h"
@@ -33,6 +36,7 @@ namespace {
 
 const char kUsage[] =
     "usage: vorn-sts [options] SKINDIR [SCRIPT...]\n"
+    "       vorn-sts --check [--messages NAME]... SKINDIR\n"
     "Renders image scripts of the skin in SKINDIR to PNG contact sheets, one\n"
     "SCRIPT.png per script, every state labelled. Without SCRIPT, every .sts and\n"
     ".lbs script of the skin is rendered.\n"
@@ -45,6 +49,12 @@ const char kUsage[] =
     "  --fonts NAME          font database asset (default: fonts.txt)\n"
     "  -s, --scale N         magnify pictures N times, 1 to 8 (default: by size)\n"
     "  -v, --verbose         print the toolkit's debug lines\n"
+    "  --check               render nothing; report message lines whose dropped last\n"
+    "                        character is not a blank, keys missing in a language,\n"
+    "                        colours, fonts and pictures that scripts or the toolkit\n"
+    "                        name and the skin lacks, pictures of the wrong size and\n"
+    "                        scripts that do not parse; exit 1 on any finding\n"
+    "  --messages NAME       a message file for --check, repeatable (default: messages.txt)\n"
     "  -h, --help            this text\n"
     "\n"
     "Warnings of the image script parser are printed to stderr; any warning makes\n"
@@ -61,6 +71,8 @@ struct Options {
   std::string fonts = "fonts.txt";
   int scale = 0;
   bool verbose = false;
+  bool check = false;
+  std::vector<std::string> messages;
 };
 
 // Counts the problems reported while one script renders.
@@ -110,6 +122,12 @@ bool ParseArguments(int argc, char** argv, Options& o) {
         Fail("--scale takes a number from 1 to 8");
         return false;
       }
+    } else if (a == "--check") {
+      o.check = true;
+    } else if (a == "--messages") {
+      std::string name;
+      if (!value(name)) return false;
+      o.messages.push_back(name);
     } else if (a == "-v" || a == "--verbose") {
       o.verbose = true;
     } else if (!a.empty() && a[0] == '-') {
@@ -464,12 +482,26 @@ class StsApp : public wxApp {
   bool OnInit() override { return true; }
 };
 
+int Check(const Options& o) {
+  SkinCheckOptions check;
+  check.skin = o.skin;
+  check.platform = o.platform;
+  check.colours = o.colours;
+  check.fonts = o.fonts;
+  if (!o.messages.empty()) check.messageFiles = o.messages;
+  SetDprintfHandler([](const char*) {});
+  const int findings = RunSkinCheck(check, std::cout);
+  if (findings) Fail(std::to_string(findings) + " findings in " + o.skin);
+  return findings ? 1 : 0;
+}
+
 int Run(const Options& o) {
   std::error_code ec;
   if (!fs::is_directory(o.skin, ec)) {
     Fail("skin directory " + o.skin + " does not exist");
     return 2;
   }
+  if (o.check) return Check(o);
   // A designer's first run usually names a fresh directory: make it.
   if (!fs::is_directory(o.output, ec) && !fs::create_directories(o.output, ec)) {
     Fail("cannot create output directory " + o.output + (ec ? ": " + ec.message() : ""));

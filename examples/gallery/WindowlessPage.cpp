@@ -156,7 +156,10 @@ class WindowlessPage : public GalleryPage {
     if (!m_pOver || !m_pOver->GetEnabled()) return;
     m_pPressed = m_pOver;
     wxMouseEvent local = Local(e, *m_pPressed);
-    m_pPressed->OnLeftDown(local);
+    if (e.GetEventType() == wxEVT_LEFT_DCLICK)
+      m_pPressed->OnLeftDClick(local);
+    else
+      m_pPressed->OnLeftDown(local);
     // Through the host, so the release arrives even outside the page.
     m_pPressed->CaptureMouse();
   }

@@ -80,6 +80,8 @@ class AssetManager {
   // ---- Loaders and the asset index --------------------------------------
   // Takes ownership of the loader; later loaders override earlier ones.
   bool SetAssetLoader(AssetLoader* loader);
+  // The same for an owning pointer, as GetArchiveAssetLoaders hands them out.
+  bool SetAssetLoader(std::unique_ptr<AssetLoader> loader);
   void SetPlatform(const char* platform);
   void GetPlatform(std::string& out) const;
   void SetLanguage(const char* language, const char* subLanguage);
@@ -98,6 +100,19 @@ class AssetManager {
   bool LoadText(const char* name, std::string& out);
   bool LoadText(const char* name, wxString& out);
   bool LoadMenuText(const char* name, std::vector<MENUITEM>& out);
+  // Switches the language at run time in one call: sets it, re-indexes the
+  // assets through the same loaders, empties the message table and reloads
+  // the message files, the font database and the colour database this
+  // manager loaded last (in their original order). False when any step
+  // failed; the others still ran.
+  //
+  // Cached images are kept, so live controls that draw from them stay
+  // valid. Texts a control was given at creation (labels) do not change by
+  // themselves: rebuild or relabel such controls after the call. A host whose
+  // image assets have language variants must call ClearCaches and rebuild
+  // every control instead: ClearCaches deletes every cached image and image
+  // set, and a control still drawing from one would read freed memory.
+  bool SetLanguageAndReload(const char* language, const char* subLanguage);
   void CloseAll();
   void ClearAssets();
   void ClearCaches();
@@ -187,6 +202,10 @@ class AssetManager {
   std::map<std::string, ColorA> m_colours;
   std::map<std::string, wxFont> m_fonts;
   std::map<std::string, std::string> m_messages;
+  // What the databases were last loaded from, for SetLanguageAndReload.
+  std::vector<std::string> m_messageFiles;
+  std::string m_fontFile;
+  std::string m_colourFile;
   WallpaperBitmapHolder m_wallpaper;
   std::map<std::string, std::unique_ptr<VornBitmapACache>> m_bitmapACaches;
   std::map<std::string, std::unique_ptr<VornBitmapCache>> m_bitmapCaches;

@@ -147,6 +147,9 @@ class VirtualControl : public VirtualWindow {
   // host passes them. Nothing happens while disabled.
   void OnLeftDown(wxMouseEvent& event);
   void OnLeftUp(wxMouseEvent& event);
+  // A host passes its wxEVT_LEFT_DCLICK here: a press, and ControlDoubleClick
+  // to the group; the release follows as usual.
+  void OnLeftDClick(wxMouseEvent& event);
   void OnRightDown(wxMouseEvent& event);
   void OnRightUp(wxMouseEvent& event);
   void OnEntering(wxMouseEvent& event);

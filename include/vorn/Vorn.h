@@ -18,5 +18,7 @@
 #include "vorn/VornControlGroup.h"
 #include "vorn/VornGLTextureCache.h"
 #include "vorn/VornImageCache.h"
+#include "vorn/VornInstall.h"
+#include "vorn/VornSkinNames.h"
 #include "vorn/VornValueNotify.h"
 #include "vorn/VornWindow.h"

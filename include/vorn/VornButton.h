@@ -216,11 +216,20 @@ class VornButtonTimer : public wxTimer {
 // initial delay and then once per repeat interval.
 class VornMomentBtn : public VornButton {
  public:
+  // The timing the scroll bars' end buttons use: first repeat after half a
+  // second, then one every 10 ms.
+  static constexpr int kDefaultInitialDelay = 500;
+  static constexpr int kDefaultRepeatInterval = 10;
+
   VornMomentBtn();
   VornMomentBtn(const VornwxBitmapCache* cache, int x, int y, wxWindow* parent, int id,
-                VornControlGroup* group, long style, int initialDelay, int repeatInterval);
+                VornControlGroup* group, long style = 0,
+                int initialDelay = kDefaultInitialDelay,
+                int repeatInterval = kDefaultRepeatInterval);
   VornMomentBtn(const VornwxBitmapCache* cache, int x, int y, int w, int h, wxWindow* parent,
-                int id, VornControlGroup* group, long style, int initialDelay, int repeatInterval);
+                int id, VornControlGroup* group, long style = 0,
+                int initialDelay = kDefaultInitialDelay,
+                int repeatInterval = kDefaultRepeatInterval);
   ~VornMomentBtn() override;
 
   void OnEnable(bool enabled) override;

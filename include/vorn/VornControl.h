@@ -70,6 +70,11 @@ class VornControl : public VornWindow {
   void Init();
   void OnLeftDown(wxMouseEvent& event);
   void OnLeftUp(wxMouseEvent& event);
+  // wxGTK delivers the second press of a quick pair as a double click: it
+  // counts as a press (the release follows as usual) and the group also hears
+  // ControlDoubleClick. A subclass with its own double-click reaction binds
+  // wxEVT_LEFT_DCLICK in its own table.
+  void OnLeftDClick(wxMouseEvent& event);
   void OnRightDown(wxMouseEvent& event);
   void OnRightUp(wxMouseEvent& event);
   void OnLeaving(wxMouseEvent& event);

@@ -168,6 +168,11 @@ class VornWindow : public wxWindow {
   // window grabs the pointer; the captive flag follows.
   void OnMouseCaptureLost(wxMouseCaptureLostEvent& event);
 
+  // Sizers: the stored size is the window's best size, and a move or resize
+  // made by wx (a sizer's layout) is written back into the stored geometry.
+  wxSize DoGetBestSize() const override;
+  void DoSetSize(int x, int y, int width, int height, int sizeFlags) override;
+
   wxColour m_fgColour;
   wxColour m_bgColour;  // copy of the wx background colour, see GetBgColour
   int m_width = -1;
@@ -180,6 +185,11 @@ class VornWindow : public wxWindow {
 
  private:
   bool CreateWindow(int x, int y, const wxSize& size, wxWindow* parent, int id, long style);
+  // Applies geometry without writing it back: the toolkit's own setters
+  // store exactly what they were given.
+  void ApplyGeometry(int x, int y, int w, int h, int flags);
+
+  bool m_bApplyingOwnGeometry = false;
   void SendKeyEvent(wxEventType type, const wxKeyEvent& key);
 
   wxDECLARE_EVENT_TABLE();

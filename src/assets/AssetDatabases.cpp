@@ -2,6 +2,7 @@
 // grammars.
 #include <wx/settings.h>
 
+#include <algorithm>
 #include <climits>
 #include <cmath>
 #include <sstream>
@@ -84,6 +85,9 @@ std::string WithoutLastChar(std::string line) {
 // ---- Messages -------------------------------------------------------------------
 
 bool AssetManager::LoadMessages(const char* name) {
+  const std::string file = name ? name : "";
+  if (std::find(m_messageFiles.begin(), m_messageFiles.end(), file) == m_messageFiles.end())
+    m_messageFiles.push_back(file);
   std::string text;
   if (!LoadDatabaseText(*this, name, kMessageTitle, "message file", text)) return false;
   std::istringstream in(text);
@@ -140,6 +144,7 @@ constexpr int kMaxPointSize = 1000;
 
 bool AssetManager::LoadFontData(const char* name) {
   dprintf("%s\n", name ? name : "");
+  m_fontFile = name ? name : "";
   std::string text;
   if (!LoadDatabaseText(*this, name, kFontTitle, "font database", text)) return false;
   LineErrors error(kFontTitle);
@@ -201,6 +206,7 @@ void AssetManager::ClearFontDatabase() {
 // ---- Colours --------------------------------------------------------------------
 
 bool AssetManager::LoadColourData(const char* name) {
+  m_colourFile = name ? name : "";
   std::string text;
   if (!LoadDatabaseText(*this, name, kColourTitle, "colour database", text)) return false;
   LineErrors error(kColourTitle);

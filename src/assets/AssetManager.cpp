@@ -104,6 +104,31 @@ bool AssetManager::SetAssetLoader(AssetLoader* loader) {
   return true;
 }
 
+bool AssetManager::SetAssetLoader(std::unique_ptr<AssetLoader> loader) {
+  return SetAssetLoader(loader.release());
+}
+
+bool AssetManager::SetLanguageAndReload(const char* language, const char* subLanguage) {
+  SetLanguage(language, subLanguage);
+  // Loaders index only the current language's directories: start afresh.
+  m_assets.clear();
+  bool ok = LoadAssets();
+  const std::vector<std::string> messageFiles = m_messageFiles;
+  ClearMessageDatabase();
+  for (const std::string& name : messageFiles) ok = LoadMessages(name.c_str()) && ok;
+  if (!m_fontFile.empty()) {
+    const std::string name = m_fontFile;
+    ClearFontDatabase();
+    ok = LoadFontData(name.c_str()) && ok;
+  }
+  if (!m_colourFile.empty()) {
+    const std::string name = m_colourFile;
+    ClearColourDatabase();
+    ok = LoadColourData(name.c_str()) && ok;
+  }
+  return ok;
+}
+
 void AssetManager::SetPlatform(const char* platform) {
   m_platform = Str(platform);
 }

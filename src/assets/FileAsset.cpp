@@ -35,6 +35,7 @@ FileAsset::FileAsset(const FileAsset& other)
 FileAsset::~FileAsset() = default;
 
 namespace {
+const char kRootWarningTitle[] = "FileAssetLoader Root";
 // Reads the whole regular file at path; false on any failure.
 bool ReadWholeFile(const std::string& path, std::unique_ptr<unsigned char[]>& data, int& size,
                    const char*& why) {
@@ -118,6 +119,13 @@ FileAssetLoader::~FileAssetLoader() = default;
 bool FileAssetLoader::Init(const std::string& root) {
   if (root.size() < 2) return false;
   m_root = root;
+  // The root is a plain prefix of every path: a directory named without its
+  // separator would look for "skinGeneric/..." and find almost nothing.
+  std::error_code error;
+  if (root.back() != '/' && std::filesystem::is_directory(root, error))
+    WarningMessage(kRootWarningTitle, "The asset root \"" + root +
+                                          "\" is a directory but does not end with '/': "
+                                          "pass \"" + root + "/\" to load the files inside it");
   return true;
 }
 

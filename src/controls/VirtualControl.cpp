@@ -288,6 +288,11 @@ void VirtualControl::ButtonUp(const wxMouseEvent& event, bool left) {
 void VirtualControl::OnLeftDown(wxMouseEvent& event) {
   ButtonDown(event, true);
 }
+void VirtualControl::OnLeftDClick(wxMouseEvent& event) {
+  if (!m_bEnabled) return;
+  ButtonDown(event, true);
+  if (m_pControlGroup) m_pControlGroup->ControlDoubleClick(m_id, this);
+}
 void VirtualControl::OnLeftUp(wxMouseEvent& event) {
   ButtonUp(event, true);
 }

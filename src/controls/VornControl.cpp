@@ -217,6 +217,11 @@ void VornControl::ButtonUp(const wxMouseEvent& event, bool left) {
 void VornControl::OnLeftDown(wxMouseEvent& event) {
   ButtonDown(event, true);
 }
+void VornControl::OnLeftDClick(wxMouseEvent& event) {
+  if (!m_bEnabled) return;
+  ButtonDown(event, true);
+  if (m_pControlGroup) m_pControlGroup->ControlDoubleClick(GetId(), this);
+}
 void VornControl::OnLeftUp(wxMouseEvent& event) {
   ButtonUp(event, true);
 }
@@ -263,7 +268,9 @@ void VornControl::OnVornHintArrive(VornHintEvent& event) {
 wxBEGIN_EVENT_TABLE(VornControl, VornWindow)
   EVT_LEFT_DOWN(VornControl::OnLeftDown)
   EVT_LEFT_UP(VornControl::OnLeftUp)
+  EVT_LEFT_DCLICK(VornControl::OnLeftDClick)
   EVT_RIGHT_DOWN(VornControl::OnRightDown)
+  EVT_RIGHT_DCLICK(VornControl::OnRightDown)
   EVT_RIGHT_UP(VornControl::OnRightUp)
   EVT_LEAVE_WINDOW(VornControl::OnLeaving)
   EVT_ENTER_WINDOW(VornControl::OnEntering)

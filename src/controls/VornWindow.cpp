@@ -134,13 +134,13 @@ void VornWindow::OnDraw(wxDC* dc) {
 void VornWindow::SetSize(int w, int h) {
   m_width = w;
   m_height = h;
-  wxWindow::SetSize(-1, -1, w, h, 0);
+  ApplyGeometry(-1, -1, w, h, 0);
 }
 
 void VornWindow::SetPosition(int x, int y) {
   m_x = x;
   m_y = y;
-  wxWindow::SetSize(x, y, -1, -1, 0);
+  ApplyGeometry(x, y, -1, -1, 0);
 }
 
 void VornWindow::SetWindowPos(int x, int y, int w, int h) {
@@ -148,7 +148,32 @@ void VornWindow::SetWindowPos(int x, int y, int w, int h) {
   m_y = y;
   m_width = w;
   m_height = h;
-  wxWindow::SetSize(x, y, w, h, wxSIZE_ALLOW_MINUS_ONE);
+  ApplyGeometry(x, y, w, h, wxSIZE_ALLOW_MINUS_ONE);
+}
+
+void VornWindow::ApplyGeometry(int x, int y, int w, int h, int flags) {
+  m_bApplyingOwnGeometry = true;
+  wxWindow::SetSize(x, y, w, h, flags);
+  m_bApplyingOwnGeometry = false;
+  // The best size follows the stored one.
+  InvalidateBestSize();
+}
+
+wxSize VornWindow::DoGetBestSize() const {
+  if (m_width > 0 && m_height > 0) return wxSize(m_width, m_height);
+  return wxWindow::DoGetBestSize();
+}
+
+void VornWindow::DoSetSize(int x, int y, int width, int height, int sizeFlags) {
+  wxWindow::DoSetSize(x, y, width, height, sizeFlags);
+  if (m_bApplyingOwnGeometry) return;
+  const wxRect now = GetRect();
+  const bool resized = now.width != m_width || now.height != m_height;
+  m_x = now.x;
+  m_y = now.y;
+  m_width = now.width;
+  m_height = now.height;
+  if (resized) Refresh(false);
 }
 
 void VornWindow::GetSize(int& w, int& h) const {

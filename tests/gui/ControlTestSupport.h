@@ -119,6 +119,8 @@ class RecordingGroupOf : public Base {
   explicit RecordingGroupOf(EventLog* log) : m_log(log) {}
   void ControlSelected(unsigned int id, VornControl*) override { Note("sel", id); }
   void ControlUnSelected(unsigned int id, VornControl*) override { Note("unsel", id); }
+  void ControlDoubleClick(unsigned int id, VornControl*) override { Note("dbl", id); }
+  void ControlDoubleClick(unsigned int id, VirtualControl*) override { Note("dbl", id); }
 
  protected:
   void Note(const char* what, unsigned int id) {
@@ -147,11 +149,12 @@ inline void Mouse(wxWindow* window, wxEventType type, int x = 4, int y = 4, bool
 }
 
 // Sends the mouse events of a space-separated list: enter, leave, down, up,
-// rdown, rup; "disable" disables the control instead.
+// dclick, rdown, rup; "disable" disables the control instead.
 inline void Do(VornControl* control, const std::string& events, int x = 4, int y = 4) {
   static const std::map<std::string, wxEventType> kTypes = {
       {"enter", wxEVT_ENTER_WINDOW}, {"leave", wxEVT_LEAVE_WINDOW}, {"down", wxEVT_LEFT_DOWN},
-      {"up", wxEVT_LEFT_UP},         {"rdown", wxEVT_RIGHT_DOWN},   {"rup", wxEVT_RIGHT_UP}};
+      {"up", wxEVT_LEFT_UP},         {"rdown", wxEVT_RIGHT_DOWN},   {"rup", wxEVT_RIGHT_UP},
+      {"dclick", wxEVT_LEFT_DCLICK}};
   std::istringstream in(events);
   for (std::string e; in >> e;)
     e == "disable" ? control->SetEnabled(false) : Mouse(control, kTypes.at(e), x, y);
