@@ -39,9 +39,11 @@ wxString WithSeparator(wxString dir) {
   return dir;
 }
 
-// The skin used when none is named: installed beside the program, else the
-// source tree's, else the configured install location.
+// The skin used when none is named: installed with the library or beside the
+// program, else the source tree's, else the configured install location.
 wxString DefaultSkinDir() {
+  const std::string beside = VornDefaultSkinDir();  // installed with the library
+  if (!beside.empty()) return wxString::FromUTF8(beside.c_str());
   const wxFileName exe(wxStandardPaths::Get().GetExecutablePath());
   wxFileName installed(exe.GetPath() + "/../share/vorn/skins/default/");
   installed.Normalize(wxPATH_NORM_DOTS | wxPATH_NORM_ABSOLUTE);
@@ -53,17 +55,15 @@ wxString DefaultSkinDir() {
 }
 
 // Start-up steps 2 to 5 of every host: loaders, platform and language,
-// assets, databases. Also used to reload after a change of language.
+// assets, databases.
 bool LoadSkin(AssetManager& assets, const SkinOptions& options, const char* language) {
-  assets.Clear();
-  assets.ClearMessageDatabase();
   bool loaders = false;
   if (!options.skinDir.empty() || (options.archive.empty() && options.archiveDir.empty())) {
     auto loader = std::make_unique<FileAssetLoader>();
     const wxString dir =
         options.skinDir.empty() ? DefaultSkinDir() : WithSeparator(options.skinDir);
     dprintf("vorn-gallery: skin directory %s\n", Utf8(dir).c_str());
-    if (loader->Init(Utf8(dir))) loaders = assets.SetAssetLoader(loader.release());
+    if (loader->Init(Utf8(dir))) loaders = assets.SetAssetLoader(std::move(loader));
   }
   // Archives come after the directory, so they override it.
   if (!options.archive.empty())
@@ -72,7 +72,7 @@ bool LoadSkin(AssetManager& assets, const SkinOptions& options, const char* lang
   if (!options.archiveDir.empty()) {
     for (auto& loader : ArchiveAssetLoader::GetArchiveAssetLoaders(
              Utf8(WithSeparator(options.archiveDir)), Utf8(options.archivePrefix)))
-      loaders = assets.SetAssetLoader(loader.release()) || loaders;
+      loaders = assets.SetAssetLoader(std::move(loader)) || loaders;
   }
   if (!loaders) {
     std::fprintf(stderr, "vorn-gallery: no asset source to load from\n");
@@ -191,15 +191,16 @@ class GalleryFrame : public wxFrame {
   std::size_t NumPages() const { return m_pages.size(); }
   TopBar* GetTopBar() const { return m_pTopBar; }
 
-  // Rebuilds everything that shows text: a new language needs the assets and
-  // messages reloaded, and the controls (holding cached images) go first.
+  // One call switches the assets and databases; cached images stay, so the
+  // live controls stay valid. The pages are rebuilt because their labels
+  // were given at creation.
   void SwitchLanguage(int language) {
     if (language == m_language) return;
     const int selection = m_pNotebook ? m_pNotebook->GetSelection() : 0;
-    Teardown();
     m_language = language;
-    if (!LoadSkin(m_assets, m_options, kLanguages[language]))
+    if (!m_assets.SetLanguageAndReload(kLanguages[language], ""))
       m_log.Add("Some assets could not be loaded; see the warnings");
+    Teardown();
     Build(selection);
     m_log.Add(wxString::Format("Language: %s", kLanguages[language]));
   }

@@ -25,7 +25,24 @@ echo "find_package consumer: $out"
 
 # 2. pkg-config.
 export PKG_CONFIG_PATH="$prefix/lib/pkgconfig:$prefix/lib/x86_64-linux-gnu/pkgconfig:${PKG_CONFIG_PATH:-}"
-"$cxx" -std=c++17 -o "$work/pc_consumer" "$consumer_src/consumer.cpp" $(pkg-config --cflags --libs vorn)
+skindir=$(pkg-config --variable=skindir vorn)
+[ -f "$skindir/Generic/colours.txt" ] || { echo "pkg-config skindir '$skindir' holds no skin"; exit 1; }
+"$cxx" -std=c++17 -o "$work/pc_consumer" "$consumer_src/consumer.cpp" $(pkg-config --cflags --libs vorn) \
+  -DVORN_EXPECTED_SKIN_DIR="\"$skindir\""
 out=$("$work/pc_consumer")
 echo "pkg-config consumer: $out"
 [ "$out" = "consumer ok" ]
+
+# 3. The README's first host, on the installed skin it finds by itself, before
+# and after the installation is moved.
+cmake -S "$consumer_src/../../examples/firsthour" -B "$work/firsthour" -G "$generator" \
+  -DCMAKE_CXX_COMPILER="$cxx" -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
+cmake --build "$work/firsthour" >/dev/null
+out=$(ASAN_OPTIONS=detect_leaks=0 "$work/firsthour/vorn-firsthour" --check)
+echo "first hour, installed: $out"
+[ "$out" = "first hour ok" ]
+mv "$prefix" "$work/moved"
+libdir=$(dirname "$(find "$work/moved" -name 'libvorn.so*' | head -n 1)")
+out=$(LD_LIBRARY_PATH="$libdir" ASAN_OPTIONS=detect_leaks=0 "$work/firsthour/vorn-firsthour" --check)
+echo "first hour, moved installation: $out"
+[ "$out" = "first hour ok" ]
