@@ -84,6 +84,8 @@ class VornSimpleScrollBar : public VornControl {
   void OnMouseMove(int x, int y) override;
   void OnMouseButton() override;
   void OnMouseLeaving() override;
+  // The end buttons follow the bar.
+  void OnEnable(bool enabled) override;
 
   // --- hooks a subclass overrides
   // Called after every notified value change; override to scroll the owner.

@@ -6,6 +6,7 @@
 
 #include "VornScrollThumb.h"
 #include "vorn/VornSimpleScrollBar.h"
+#include "vorn/VornValueNotify.h"
 #include "vornhost/Utility.h"
 
 namespace {
@@ -32,7 +33,7 @@ VornListBoxScrollBar::~VornListBoxScrollBar() = default;
 
 void VornListBoxScrollBar::SetSliderVal(double value) {
   if (value == m_sliderVal || std::isnan(value)) return;
-  m_sliderVal = value < 0.0 ? 0.0 : (value > 1.0 ? 1.0 : value);
+  m_sliderVal = VornValueNotify::Clamp(value);
   if (m_pBox) m_pBox->SetScrollPos(m_sliderVal);
 }
 

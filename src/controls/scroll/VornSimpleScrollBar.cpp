@@ -11,6 +11,7 @@
 #include "VornScrollThumb.h"
 #include "vorn/GraphicsFunctions.h"
 #include "vorn/VornAssert.h"
+#include "vorn/VornValueNotify.h"
 #include "vornhost/Filter.h"
 #include "vornhost/Utility.h"
 
@@ -82,7 +83,7 @@ void VornSimpleScrollBar::DestroyEndButtons() {
 
 void VornSimpleScrollBar::SetSliderVal(double value, bool notify) {
   if (value == m_sliderVal || std::isnan(value)) return;
-  m_sliderVal = value < 0.0 ? 0.0 : (value > 1.0 ? 1.0 : value);
+  m_sliderVal = VornValueNotify::Clamp(value);
   if (m_bDragging)
     RedrawNow();
   else if (GetHandle())
@@ -273,6 +274,11 @@ void VornSimpleScrollBar::OnMouseLeaving() {
   if (!m_bMouseOverTab || m_bDragging) return;
   m_bMouseOverTab = false;
   Refresh(false);
+}
+
+void VornSimpleScrollBar::OnEnable(bool enabled) {
+  for (VornMomentBtn* button : {m_pUpButton.get(), m_pDownButton.get()})
+    if (button) button->SetEnabled(enabled);
 }
 
 void VornSimpleScrollBar::OnMouseWheel(wxMouseEvent& event) {
