@@ -16,6 +16,7 @@
 #include "vorn/VornImageCache.h"
 
 class VornScrollThumb;  // the tab pieces and tab images
+struct VornScrollThumbSpan;
 class VornMonsterBox;
 
 // A vertical bar 11 pixels wide. Its value runs from 0 (the top of the content
@@ -127,6 +128,7 @@ class VornSimpleScrollBar : public VornControl {
  private:
   void CreateEndButtons();
   void DestroyEndButtons();
+  VornScrollThumbSpan ThumbSpan() const;
 
   wxDECLARE_EVENT_TABLE();
 };
@@ -203,6 +205,7 @@ class VornListBoxScrollBar {
  private:
   bool Hit(const wxMouseEvent& event) const;
   void RepaintBox();
+  VornScrollThumbSpan ThumbSpan() const;
 
   bool m_bVisible = false;
   wxColour m_first;
