@@ -156,7 +156,8 @@ class MonsterScrollBar : public VornSimpleScrollBar {
   bool m_bPlainUp = false;
 };
 
-// What a windowless list-box bar needs from the list that owns it.
+// What a windowless list-box bar needs from the list that owns it; the
+// pop-up list implements it and hands itself to SetBox.
 class VornListBoxScrollOwner {
  public:
   virtual ~VornListBoxScrollOwner() = default;
