@@ -22,3 +22,4 @@
 #include "vorn/VornSkinNames.h"
 #include "vorn/VornValueNotify.h"
 #include "vorn/VornWindow.h"
+#include "vorn/VornSimpleScrollBar.h"
