@@ -20,3 +20,5 @@
 #include "vorn/VornImageCache.h"
 #include "vorn/VornValueNotify.h"
 #include "vorn/VornWindow.h"
+#include "vorn/VornAngleControl.h"
+#include "vorn/VornGLWindow.h"
