@@ -264,14 +264,17 @@ void InstrumentMasks(Writer& out) {
       const float x = d * perDegree, len = d % 90 == 0 ? 14.f : d % 15 == 0 ? 9.f : 5.f;
       ticks.push_back(Segment(x, h - 3 - len, x, h - 3.f, d % 15 == 0 ? 0.9f : 0.6f));
     }
-    const char* names[] = {"N", "NE", "E", "SE", "S", "SW", "W", "NW", "N"};
-    for (int i = 0; i <= 8; ++i) {
-      const float x = i * 45 * perDegree;
-      if (i % 2) {
+    // A sixteen-point rose, so that a 320-pixel view always shows a name.
+    const char* names[] = {"N",   "NNE", "NE",  "ENE", "E",   "ESE", "SE",  "SSE", "S",
+                           "SSW", "SW",  "WSW", "W",   "WNW", "NW",  "NNW", "N"};
+    for (int i = 0; i <= 16; ++i) {
+      const float x = i * 22.5f * perDegree;
+      if (i % 4 == 0)
+        AddText(i % 16 == 0 ? north : cardinals, names[i], x, 6, 14, 1.1f);
+      else if (i % 2 == 0)
         AddText(minor, names[i], x, 10, 9, 0.75f);
-      } else {
-        AddText(i % 8 == 0 ? north : cardinals, names[i], x, 6, 14, 1.1f);
-      }
+      else
+        AddText(minor, names[i], x, 12, 7, 0.6f);
     }
     const Field solid = [](float, float) { return -1.f; };
     out("compass_solid.png", Fill(period, h, solid));

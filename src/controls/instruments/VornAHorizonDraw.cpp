@@ -21,6 +21,25 @@ Axis Unit(const wxPoint& from, const wxPoint& to, Axis fallback) {
   const double dx = to.x - from.x, dy = to.y - from.y, length = std::hypot(dx, dy);
   return length > 0.0 ? Axis{dx / length, dy / length} : fallback;
 }
+// The picture at (fx, fy) by bilinear interpolation, clamped to its edges, so
+// that the turned lines of the ball stay smooth.
+ColorA Sample(const BitmapA& picture, double fx, double fy) {
+  fx = std::clamp(fx - 0.5, 0.0, picture.width - 1.0);
+  fy = std::clamp(fy - 0.5, 0.0, picture.height - 1.0);
+  const int x0 = static_cast<int>(fx), y0 = static_cast<int>(fy);
+  const int x1 = std::min(x0 + 1, picture.width - 1), y1 = std::min(y0 + 1, picture.height - 1);
+  const double tx = fx - x0, ty = fy - y0;
+  ColorA c[4];
+  ::Get(picture, x0, y0, c[0]);
+  ::Get(picture, x1, y0, c[1]);
+  ::Get(picture, x0, y1, c[2]);
+  ::Get(picture, x1, y1, c[3]);
+  auto mix = [&](double ColorA::*channel) {
+    return (c[0].*channel * (1 - tx) + c[1].*channel * tx) * (1 - ty) +
+           (c[2].*channel * (1 - tx) + c[3].*channel * tx) * ty;
+  };
+  return ColorA(mix(&ColorA::r), mix(&ColorA::g), mix(&ColorA::b), 1.0);
+}
 }  // namespace
 
 void VornAHorizonControl::DrawBall(wxDC& dc) {
@@ -41,12 +60,7 @@ void VornAHorizonControl::DrawBall(wxDC& dc) {
         const double rx = m_centreX + px - m_c.x, ry = m_centreY + py - m_c.y;
         const double u = rx * along.x + ry * along.y, v = rx * down.x + ry * down.y;
         if (ball) {
-          const int bx = std::clamp(static_cast<int>(std::floor(m_pBall->width / 2.0 + u)), 0,
-                                    m_pBall->width - 1);
-          const int by = std::clamp(static_cast<int>(std::floor(m_pBall->height / 2.0 + v)), 0,
-                                    m_pBall->height - 1);
-          ::Get(*m_pBall, bx, by, c);
-          c.a = 1.0;
+          c = Sample(*m_pBall, m_pBall->width / 2.0 + u, m_pBall->height / 2.0 + v);
         } else {
           c = v < 0 ? kPlainSky : kPlainGround;
         }
