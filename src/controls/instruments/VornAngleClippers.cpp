@@ -16,6 +16,7 @@ constexpr double kClipperPi = 3.1415926535;
 constexpr double kOpening = 0.25;
 constexpr int kScaleTicks = 8;
 constexpr int kRulerTicks = 10;
+constexpr double kOpeningTint = 0.2;
 
 wxPoint JawPoint(const wxPoint& pivot, int radius, double value) {
   const double a = value * kOpening * 2.0 * kClipperPi;
@@ -131,6 +132,15 @@ void VornAngleClippers::DrawPicture() {
     const int mx = 6 + static_cast<int>((rulerEnd - 6) * m_value);
     DrawCircle(AntiAlias(*f), mx, rulerY + 3, 3, m_marker, true);
   }
+  // The opening between the jaws, lightly tinted.
+  const double opening = m_value * kOpening * 2.0 * kClipperPi;
+  ColorA tint = m_marker;
+  for (int y = m_pivot.y - m_outerRadius; y <= m_pivot.y; ++y)
+    for (int x = m_pivot.x; x <= m_pivot.x + m_outerRadius; ++x) {
+      const double dx = x - m_pivot.x, dy = m_pivot.y - y;
+      if (std::hypot(dx, dy) < m_outerRadius && std::atan2(dy, dx) < opening)
+        f->WritePixelI(x, y, tint, kOpeningTint);
+    }
   // The fixed jaw along the zero direction, the moving jaw at the value.
   ThickLine(*f, m_pivot, JawPoint(m_pivot, m_outerRadius, 0.0), m_frame);
   ThickLine(*f, m_pivot, m_outerJaw, m_frame);
