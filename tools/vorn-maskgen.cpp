@@ -203,6 +203,174 @@ void ScrollThumbMasks(Writer& out) {
   out("scrollthumb_end.png", Fill(w, h, Segment(3, 35.5f, 7, 35.5f, 0.9f)));
 }
 
+// ---- instruments -------------------------------------------------------------
+
+Field UnionAll(const std::vector<Field>& parts) {
+  return [parts](float x, float y) {
+    float d = 1e9f;
+    for (const Field& f : parts) d = std::min(d, f(x, y));
+    return d;
+  };
+}
+
+// Capital letters of the compass as strokes in a unit box (y down).
+std::vector<std::vector<std::pair<float, float>>> GlyphStrokes(char c) {
+  switch (c) {
+    case 'N':
+      return {{{0, 1}, {0, 0}, {1, 1}, {1, 0}}};
+    case 'E':
+      return {{{1, 0}, {0, 0}, {0, 1}, {1, 1}}, {{0, 0.5f}, {0.8f, 0.5f}}};
+    case 'W':
+      return {{{0, 0}, {0.25f, 1}, {0.5f, 0.35f}, {0.75f, 1}, {1, 0}}};
+    case 'S':
+      return {{{0.95f, 0.15f},
+               {0.75f, 0},
+               {0.25f, 0},
+               {0.03f, 0.15f},
+               {0.03f, 0.35f},
+               {0.25f, 0.48f},
+               {0.75f, 0.52f},
+               {0.97f, 0.65f},
+               {0.97f, 0.85f},
+               {0.75f, 1},
+               {0.25f, 1},
+               {0.05f, 0.85f}}};
+    default:
+      return {};
+  }
+}
+
+// text centred at cx with its top at top, letters h high.
+void AddText(std::vector<Field>& parts, const std::string& text, float cx, float top, float h,
+             float hw) {
+  auto width = [&](char c) { return (c == 'W' ? 1.0f : 0.68f) * h; };
+  const float gap = h * 0.3f;
+  float total = -gap;
+  for (char c : text) total += width(c) + gap;
+  float x = cx - total / 2;
+  for (char c : text) {
+    const float w = width(c);
+    for (const auto& line : GlyphStrokes(c))
+      for (std::size_t i = 1; i < line.size(); ++i)
+        parts.push_back(Segment(x + line[i - 1].first * w, top + line[i - 1].second * h,
+                                x + line[i].first * w, top + line[i].second * h, hw));
+    x += w + gap;
+  }
+}
+
+// A radial tick at turn t (clockwise from the top) between radii r0 and r1.
+Field Tick(float cx, float cy, float t, float r0, float r1, float hw) {
+  const float a = t * 2 * 3.14159265f, sx = std::sin(a), sy = -std::cos(a);
+  return Segment(cx + sx * r0, cy + sy * r0, cx + sx * r1, cy + sy * r1, hw);
+}
+
+// The compass rose strip (3210 pixels a turn, repeating), its frame and the
+// lubber mark; the clock face and its hand; the dial face; the horizon ball
+// with its pitch ladder.
+void InstrumentMasks(Writer& out) {
+  {
+    const int period = 3210, h = 44;
+    const float perDegree = period / 360.f;
+    std::vector<Field> ticks, cardinals, north, minor;
+    for (int d = 0; d <= 360; d += 5) {
+      const float x = d * perDegree, len = d % 90 == 0 ? 14.f : d % 15 == 0 ? 9.f : 5.f;
+      ticks.push_back(Segment(x, h - 3 - len, x, h - 3.f, d % 15 == 0 ? 0.9f : 0.6f));
+    }
+    // A sixteen-point rose, so that a 320-pixel view always shows a name.
+    const char* names[] = {"N",   "NNE", "NE",  "ENE", "E",   "ESE", "SE",  "SSE", "S",
+                           "SSW", "SW",  "WSW", "W",   "WNW", "NW",  "NNW", "N"};
+    for (int i = 0; i <= 16; ++i) {
+      const float x = i * 22.5f * perDegree;
+      if (i % 4 == 0)
+        AddText(i % 16 == 0 ? north : cardinals, names[i], x, 6, 14, 1.1f);
+      else if (i % 2 == 0)
+        AddText(minor, names[i], x, 10, 9, 0.75f);
+      else
+        AddText(minor, names[i], x, 12, 7, 0.6f);
+    }
+    const Field solid = [](float, float) { return -1.f; };
+    out("compass_solid.png", Fill(period, h, solid));
+    out("compass_ticks.png", Fill(period, h, UnionAll(ticks)));
+    out("compass_cardinal.png", Fill(period, h, UnionAll(cardinals)));
+    out("compass_north.png", Fill(period, h, UnionAll(north)));
+    out("compass_intercardinal.png", Fill(period, h, UnionAll(minor)));
+
+    const int w = 320;
+    const Mask rim =
+        Minus(Fill(w, h, RoundRect(0, 0, w, h, 4)), Fill(w, h, RoundRect(1, 1, w - 1, h - 1, 3)));
+    // The strip fades into the panel towards both ends.
+    const Mask fade = Combine(Fill(w, h, RoundRect(0, 0, w, h, 4)), [&](int x, int, float v) {
+      const float edge = std::min(x + 0.5f, w - x - 0.5f);
+      return v * (1.f - edge / 56.f);
+    });
+    out("compass_rim.png", rim);
+    out("compass_frame.png",
+        Combine(fade, [&](int x, int y, float v) { return v + rim.get(x, y); }));
+    out("compass_lubber.png",
+        Fill(w, h, Union(Triangle(160, 5.5f, 6, 9, 1), Segment(160, 9, 160, h - 2.f, 0.6f))));
+  }
+  {
+    // Clock face, 120 x 120, and the hand it turns.
+    const float c = 60;
+    const Mask shape = Fill(120, 120, Circle(c, c, 58));
+    const Mask body = Fill(120, 120, Circle(c, c, 56));
+    out("clock_shape.png", shape);
+    out("clock_rim.png", Minus(shape, body));
+    out("clock_body.png", body);
+    out("clock_sheen.png", TopFade(body, 60, 0.1f));
+    std::vector<Field> hours, minutes;
+    for (int i = 1; i < 12; ++i)
+      hours.push_back(Tick(c, c, i / 12.f, i % 3 == 0 ? 40.f : 44.f, 51, i % 3 == 0 ? 1.6f : 1.1f));
+    for (int i = 0; i < 60; ++i)
+      if (i % 5) minutes.push_back(Tick(c, c, i / 60.f, 49, 51, 0.5f));
+    out("clock_hours.png", Fill(120, 120, UnionAll(hours)));
+    out("clock_minutes.png", Fill(120, 120, UnionAll(minutes)));
+    out("clock_twelve.png", Fill(120, 120, Tick(c, c, 0, 38, 51, 2.0f)));
+    out("clock_hand.png",
+        Fill(120, 120, Union(Segment(c, c + 8, c, c - 34, 2.2f), Circle(c, c, 4.5f))));
+    out("clock_hub.png", Fill(120, 120, Circle(c, c, 2)));
+  }
+  {
+    // Dial face, 120 x 120: 36 ticks outside the knob's circle (radius 40).
+    const float c = 60;
+    const Mask shape = Fill(120, 120, Circle(c, c, 58));
+    const Mask body = Fill(120, 120, Circle(c, c, 56));
+    out("dial_shape.png", shape);
+    out("dial_rim.png", Minus(shape, body));
+    out("dial_body.png", body);
+    std::vector<Field> ticks;
+    for (int i = 0; i < 36; ++i)
+      if (i % 9) ticks.push_back(Tick(c, c, i / 36.f, 47, 52, 0.7f));
+    std::vector<Field> quarters;
+    for (int i = 0; i < 4; ++i) quarters.push_back(Tick(c, c, i / 4.f, 45, 53, 1.4f));
+    out("dial_ticks.png", Fill(120, 120, UnionAll(ticks)));
+    out("dial_quarters.png", Fill(120, 120, UnionAll(quarters)));
+    out("dial_track.png", Fill(120, 120, [&](float x, float y) {
+          return std::fabs(std::hypot(x - c, y - c) - 40) - 0.6f;
+        }));
+  }
+  {
+    // Horizon ball, 260 x 260, the horizon across the middle.
+    const int s = 260;
+    const float mid = s / 2.f;
+    out("horizon_solid.png", Fill(s, s, [](float, float) { return -1.f; }));
+    out("horizon_sky.png", Fill(s, s, RoundRect(-1, -1, s + 1, mid, 0)));
+    out("horizon_ground.png", Fill(s, s, RoundRect(-1, mid, s + 1, s + 1, 0)));
+    out("horizon_glow.png",
+        Combine(Fill(s, s, RoundRect(-1, -1, s + 1, mid, 0)), [&](int, int y, float v) {
+          return v * std::max(0.f, 1.f - (mid - y) / 70.f) * 0.8f;
+        }));
+    out("horizon_line.png", Fill(s, s, RoundRect(-1, mid - 1, s + 1, mid + 1, 0)));
+    std::vector<Field> ladder;
+    for (int step = 1; step <= 4; ++step)
+      for (int side : {-1, 1}) {
+        const float y = mid + side * step * 15.f, half = step % 2 ? 9.f : 17.f;
+        ladder.push_back(Segment(mid - half, y, mid + half, y, 0.6f));
+      }
+    out("horizon_ladder.png", Fill(s, s, UnionAll(ladder)));
+  }
+}
+
 void Generate(Writer& out) {
   // Push button: a 32 x 32 tool face with a plus glyph.
   RaisedFace(out, "push", 32, 32, 6);
@@ -311,6 +479,7 @@ void Generate(Writer& out) {
   out("treefunc_glyph.png", Fill(18, 18, dots));
   out("treefunc_glyph_down.png", Fill(18, 18, [&](float x, float y) { return dots(x, y - 1); }));
   ScrollThumbMasks(out);
+  InstrumentMasks(out);
 }
 
 }  // namespace

@@ -23,3 +23,5 @@
 #include "vorn/VornValueNotify.h"
 #include "vorn/VornWindow.h"
 #include "vorn/VornSimpleScrollBar.h"
+#include "vorn/VornAngleControl.h"
+#include "vorn/VornGLWindow.h"
