@@ -82,7 +82,7 @@ class VornRangeBase : public VornControl {
   double m_slider = 0.0;
   const wxBitmap* m_pPicture = nullptr;  // drawn under the bar; not owned
   std::unique_ptr<wxBitmap> m_ownPicture;
-  wxBitmap m_scaledPicture;  // the picture at the track's size, made on demand
+  wxBitmap m_scaledPicture;                   // the picture at the track's size, made on demand
   VornControlGroupValue* m_pGroup = nullptr;  // not owned
   // The drag: what was gripped, where, and the window's ends at the press.
   Grip m_grip = Grip::kNone;

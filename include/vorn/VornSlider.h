@@ -100,18 +100,17 @@ class VornSlider : public VornControl {
 class VornSliderA : public VornSlider {
  public:
   VornSliderA() = default;
-  VornSliderA(SliderType type, const wxBitmap* left, const wxBitmap* middle,
-              const wxBitmap* right, const wxBitmap* fillCap, const wxBitmap* fillMiddle,
-              const wxBitmap* thumb, int x, int y, int w, int h, const wxColour& background,
-              wxWindow* parent, int id, VornControlGroupValue* group, long style = 0);
+  VornSliderA(SliderType type, const wxBitmap* left, const wxBitmap* middle, const wxBitmap* right,
+              const wxBitmap* fillCap, const wxBitmap* fillMiddle, const wxBitmap* thumb, int x,
+              int y, int w, int h, const wxColour& background, wxWindow* parent, int id,
+              VornControlGroupValue* group, long style = 0);
   // The track's left cap, middle (repeated) and right cap; the fill's cap
   // (mirrored for the right end) and middle; the thumb. The slider keeps
   // copies; a null picture is left out. background fills around them.
   virtual bool Create(SliderType type, const wxBitmap* left, const wxBitmap* middle,
                       const wxBitmap* right, const wxBitmap* fillCap, const wxBitmap* fillMiddle,
-                      const wxBitmap* thumb, int x, int y, int w, int h,
-                      const wxColour& background, wxWindow* parent, int id,
-                      VornControlGroupValue* group, long style = 0);
+                      const wxBitmap* thumb, int x, int y, int w, int h, const wxColour& background,
+                      wxWindow* parent, int id, VornControlGroupValue* group, long style = 0);
   using VornSlider::Create;
 
  protected:

@@ -229,8 +229,8 @@ void VornRangeBase::OnDraw(wxDC* dc) {
 
 // ---- the horizontal bar -------------------------------------------------------
 
-VornRangeControl::VornRangeControl(const Color& track, const Color& bar, int x, int y, int w,
-                                   int h, int scrollX1, int scrollX2, const wxBitmap* picture,
+VornRangeControl::VornRangeControl(const Color& track, const Color& bar, int x, int y, int w, int h,
+                                   int scrollX1, int scrollX2, const wxBitmap* picture,
                                    wxWindow* parent, int id, VornControlGroupValue* group,
                                    long style)
     : VornRangeBase(track, bar, x, y, w, h, scrollX1, scrollX2, picture, false, parent, id, group,

@@ -9,18 +9,18 @@
 using namespace ValueDrawing;
 
 VornSliderA::VornSliderA(SliderType type, const wxBitmap* left, const wxBitmap* middle,
-                         const wxBitmap* right, const wxBitmap* fillCap,
-                         const wxBitmap* fillMiddle, const wxBitmap* thumb, int x, int y, int w,
-                         int h, const wxColour& background, wxWindow* parent, int id,
+                         const wxBitmap* right, const wxBitmap* fillCap, const wxBitmap* fillMiddle,
+                         const wxBitmap* thumb, int x, int y, int w, int h,
+                         const wxColour& background, wxWindow* parent, int id,
                          VornControlGroupValue* group, long style) {
-  VornSliderA::Create(type, left, middle, right, fillCap, fillMiddle, thumb, x, y, w, h,
-                      background, parent, id, group, style);
+  VornSliderA::Create(type, left, middle, right, fillCap, fillMiddle, thumb, x, y, w, h, background,
+                      parent, id, group, style);
 }
 
 bool VornSliderA::Create(SliderType type, const wxBitmap* left, const wxBitmap* middle,
-                         const wxBitmap* right, const wxBitmap* fillCap,
-                         const wxBitmap* fillMiddle, const wxBitmap* thumb, int x, int y, int w,
-                         int h, const wxColour& background, wxWindow* parent, int id,
+                         const wxBitmap* right, const wxBitmap* fillCap, const wxBitmap* fillMiddle,
+                         const wxBitmap* thumb, int x, int y, int w, int h,
+                         const wxColour& background, wxWindow* parent, int id,
                          VornControlGroupValue* group, long style) {
   if (!VornSlider::Create(x, y, w, h, parent, id, group, style)) return false;
   m_type = type;

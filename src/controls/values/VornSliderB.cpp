@@ -61,7 +61,8 @@ void VornSliderB::DrawSlider(wxDC& dc) {
   std::unique_ptr<Filter> f = CreateFilter(image);
   const int cy = h / 2, r = TrackThickness(h) / 2;
   RoundBar(*f, l.trackLeft, l.trackRight, cy, r, WxCtoCA(track));
-  const int from = GetSliderType() == SLIDER_CENTRED ? (l.trackLeft + l.trackRight) / 2 : l.trackLeft;
+  const int from =
+      GetSliderType() == SLIDER_CENTRED ? (l.trackLeft + l.trackRight) / 2 : l.trackLeft;
   if (from != l.thumbMiddle) RoundBar(*f, from, l.thumbMiddle, cy, r, WxCtoCA(fill));
   const int tr = (std::min(l.thumbWidth, l.thumbHeight) - 1) / 2;
   DrawCircle(AntiAlias(*f), l.thumbMiddle, cy, tr, WxCtoCA(thumb), true);

@@ -24,12 +24,12 @@ constexpr double kStepDivisor = 350.0;
 wxBEGIN_EVENT_TABLE(VornThumbWheelControl, VornControl)
   EVT_MOUSEWHEEL(VornThumbWheelControl::OnWheel)
 wxEND_EVENT_TABLE()
-// clang-format on
+    // clang-format on
 
-VornThumbWheelControl::VornThumbWheelControl(const BitmapA* frame, const BitmapA* strip,
-                                             const BitmapA* window, int x, int y, bool vertical,
-                                             int period, wxWindow* parent, int id,
-                                             VornControlGroupValue* group, long style) {
+    VornThumbWheelControl::VornThumbWheelControl(const BitmapA* frame, const BitmapA* strip,
+                                                 const BitmapA* window, int x, int y, bool vertical,
+                                                 int period, wxWindow* parent, int id,
+                                                 VornControlGroupValue* group, long style) {
   VornThumbWheelControl::Create(frame, strip, window, x, y, vertical, period, parent, id, group,
                                 style);
 }
