@@ -6,9 +6,16 @@
 
 namespace ValueDrawing {
 
-wxBitmap Greyed(const wxBitmap& bmp) {
+wxBitmap Greyed(const wxBitmap& bmp, const wxColour& background) {
   if (!bmp.IsOk()) return wxBitmap();
-  return wxBitmap(bmp.ConvertToImage().ConvertToDisabled(200));
+  wxImage image = bmp.ConvertToImage();
+  unsigned char* p = image.GetData();
+  const int bg[3] = {background.Red(), background.Green(), background.Blue()};
+  for (long i = 0, n = static_cast<long>(image.GetWidth()) * image.GetHeight(); i < n; ++i) {
+    const int grey = (p[3 * i] + p[3 * i + 1] + p[3 * i + 2]) / 3;
+    for (int c = 0; c < 3; ++c) p[3 * i + c] = static_cast<unsigned char>((grey + bg[c]) / 2);
+  }
+  return wxBitmap(image);
 }
 
 wxBitmap Mirrored(const wxBitmap& bmp) {

@@ -6,9 +6,9 @@
 
 namespace ValueDrawing {
 
-// A copy of bmp for the disabled look (greyed and faded); an empty bitmap
-// stays empty.
-wxBitmap Greyed(const wxBitmap& bmp);
+// A copy of bmp for the disabled look: greyed and sunk halfway into the
+// background; an empty bitmap stays empty.
+wxBitmap Greyed(const wxBitmap& bmp, const wxColour& background);
 // bmp mirrored left to right.
 wxBitmap Mirrored(const wxBitmap& bmp);
 // bmp scaled to w x h (a copy when the size already matches).

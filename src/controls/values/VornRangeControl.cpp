@@ -204,7 +204,7 @@ void VornRangeBase::OnDraw(wxDC* dc) {
     if (!m_scaledPicture.IsOk() || m_scaledPicture.GetSize() != trackRect.GetSize())
       m_scaledPicture =
           ValueDrawing::Scaled(*m_pPicture, trackRect.GetWidth(), trackRect.GetHeight());
-    dc->DrawBitmap(GetEnabled() ? m_scaledPicture : ValueDrawing::Greyed(m_scaledPicture),
+    dc->DrawBitmap(GetEnabled() ? m_scaledPicture : ValueDrawing::Greyed(m_scaledPicture, bg),
                    trackRect.GetPosition(), true);
   }
   // The window: translucent over the picture, its handles solid.

@@ -27,7 +27,7 @@ bool VornSliderA::Create(SliderType type, const wxBitmap* left, const wxBitmap* 
   const wxBitmap* given[kPictures] = {left, middle, right, fillCap, fillMiddle, thumb};
   for (int i = 0; i < kPictures; ++i) {
     m_pictures[i] = given[i] ? *given[i] : wxBitmap();
-    m_disabled[i] = Greyed(m_pictures[i]);
+    m_disabled[i] = Greyed(m_pictures[i], background);
   }
   m_fillCapRight = Mirrored(m_pictures[kFillCap]);
   SetBgColour(background);
@@ -52,7 +52,7 @@ void VornSliderA::DrawSlider(wxDC& dc) {
   const int from = m_type == SLIDER_CENTRED ? (l.trackLeft + l.trackRight) / 2 : 0;
   const int a = std::min(from, l.thumbMiddle), b = std::max(from, l.thumbMiddle);
   const wxBitmap& cap = pics[kFillCap];
-  const wxBitmap capRight = GetEnabled() ? m_fillCapRight : Greyed(m_fillCapRight);
+  const wxBitmap capRight = GetEnabled() ? m_fillCapRight : Greyed(m_fillCapRight, GetBgColour());
   const int fillCapW = cap.IsOk() ? cap.GetWidth() : 0;
   const int fy = (h - (pics[kFillMiddle].IsOk() ? pics[kFillMiddle].GetHeight() : 0)) / 2;
   TileAcross(dc, pics[kFillMiddle], std::max(a, fillCapW), std::min(b, w - fillCapW), fy);

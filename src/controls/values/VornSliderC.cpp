@@ -17,8 +17,8 @@ bool VornSliderC::Create(const wxBitmap* track, const wxBitmap* thumb, int x, in
   if (!VornSlider::Create(x, y, w, h, parent, id, group, style)) return false;
   m_track = track && track->IsOk() ? Scaled(*track, w, track->GetHeight()) : wxBitmap();
   m_thumb = thumb ? *thumb : wxBitmap();
-  m_trackDisabled = Greyed(m_track);
-  m_thumbDisabled = Greyed(m_thumb);
+  m_trackDisabled = Greyed(m_track, GetBgColour());
+  m_thumbDisabled = Greyed(m_thumb, GetBgColour());
   if (m_thumb.IsOk()) SetupSlider(0, m_thumb.GetWidth(), m_thumb.GetHeight(), -1);
   return true;
 }
