@@ -43,6 +43,8 @@ class VornRangeBase : public VornControl {
   void OnDraw(wxDC* dc) override;
   void OnMouseButton() override;
   void OnMouseMove(int x, int y) override;
+  // Disabling ends a drag as a release would.
+  void OnEnable(bool enabled) override;
   void OnMouseDownLeft() override {}
   void OnMouseDownRight() override {}
   void OnMouseOver() override {}

@@ -64,6 +64,8 @@ class VornSlider : public VornControl {
   void OnDraw(wxDC* dc) override;
   void OnMouseButton() override;
   void OnMouseMove(int x, int y) override;
+  // Disabling ends a drag as a release would.
+  void OnEnable(bool enabled) override;
   void OnMouseDownLeft() override {}
   void OnMouseDownRight() override {}
   void OnMouseOver() override {}

@@ -41,6 +41,8 @@ class VornThumbWheelControl : public VornControl {
   void OnDraw(wxDC* dc) override;
   void OnMouseButton() override;
   void OnMouseMove(int x, int y) override;
+  // Disabling ends a turn as a release would.
+  void OnEnable(bool enabled) override;
   void OnMouseDownLeft() override {}
   void OnMouseDownRight() override {}
   void OnMouseOver() override {}

@@ -146,6 +146,10 @@ void VornRangeBase::Press(int along) {
   VornValueNotify::Pressed(*this, GetGroup());
 }
 
+void VornRangeBase::OnEnable(bool enabled) {
+  if (!enabled && m_grip != Grip::kNone) Release();
+}
+
 void VornRangeBase::OnMouseMove(int x, int y) {
   if (m_grip != Grip::kNone) Drag(Along(x, y));
 }

@@ -137,6 +137,10 @@ void VornSlider::Release() {
   VornValueNotify::Released(*this, GetGroup(), GetValue());
 }
 
+void VornSlider::OnEnable(bool enabled) {
+  if (!enabled && m_bDragging) Release();
+}
+
 void VornSlider::OnMouseMove(int x, int y) {
   if (!m_bDragging) return;
   if (!GetMetaKey()) x = std::max(0, std::min(GetWidth(), x));
@@ -174,7 +178,8 @@ void VornSlider::OnDraw(wxDC* dc) {
 void VornSlider::DrawSlider(wxDC& dc) {
   const SliderLayout l = GetLayout();
   const int h = GetHeight();
-  const wxColour ink = GetEnabled() ? GetFgColour() : wxColour(128, 128, 128);
+  const wxColour fg = GetFgColour().IsOk() ? GetFgColour() : *wxBLACK;
+  const wxColour ink = GetEnabled() ? fg : wxColour(128, 128, 128);
   dc.SetPen(wxPen(ink));
   dc.SetBrush(*wxTRANSPARENT_BRUSH);
   dc.DrawRectangle(l.trackLeft, h / 2 - 2, l.trackRight - l.trackLeft, 4);

@@ -104,6 +104,10 @@ void VornThumbWheelControl::Release() {
   VornValueNotify::Released(*this, GetGroup(), m_value);
 }
 
+void VornThumbWheelControl::OnEnable(bool enabled) {
+  if (!enabled && m_bTurning) Release();
+}
+
 void VornThumbWheelControl::OnMouseMove(int x, int y) {
   if (!m_bTurning) return;
   SetValue(m_bVertical ? y : x);

@@ -46,6 +46,12 @@ TEST_F(SliderTest, PressBesideTheThumbCentresItAndDragsInOneStep) {
   EXPECT_EQ(slider.GetLayout().thumbMiddle, 70);
   EXPECT_FALSE(slider.IsDragging());
   EXPECT_FALSE(slider.IsMouseCaptive());
+  // Disabled in the middle of a drag: the drag ends as if released.
+  EXPECT_EQ(Run("d40 m45"), "sel 5 drag 5 drag 5 changing 0.4 0");
+  slider.SetEnabled(false);
+  EXPECT_EQ(rec.Take(), "unsel 5 changed 0.4 0");
+  EXPECT_FALSE(slider.IsMouseCaptive());
+  EXPECT_EQ(Run("m80 u80"), "");
 }
 
 TEST_F(SliderTest, PressOnTheThumbKeepsItAndOutsideTheBandDoesNothing) {
@@ -131,6 +137,12 @@ TEST(SliderLookTest, EachLookDrawsTrackFillAndThumb) {
   const wxBitmap greyed = Render(&a, 110, 24);
   EXPECT_NE(PixelAt(greyed, 80, 12), kFill);
   EXPECT_NE(PixelAt(greyed, 104, 12), kThumb);
+
+  // The base: a block thumb in the foreground colour.
+  VornSlider plainSlider(0, 120, 110, 24, frame.Get(), 4, nullptr);
+  plainSlider.SetFgColour(kThumb);
+  plainSlider.SetValue(1.0, false);
+  EXPECT_EQ(row(Render(&plainSlider, 110, 24), {105}), colours({kThumb}));
 
   VornSliderC c(&middle, &thumb, 0, 40, 110, 24, frame.Get(), 2, nullptr);
   c.SetValue(0.0, false);
