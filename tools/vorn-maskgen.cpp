@@ -371,6 +371,108 @@ void InstrumentMasks(Writer& out) {
   }
 }
 
+// The mask turned about its diagonal: a vertical control from a horizontal
+// one.
+Mask Transposed(const Mask& m) {
+  Mask t(m.h, m.w);
+  for (int y = 0; y < m.h; ++y)
+    for (int x = 0; x < m.w; ++x) t.at(y, x) = m.get(x, y);
+  return t;
+}
+
+// Sliders and the thumb wheel.
+//   slider_{left,mid,right}_*  an 8-pixel pill track in three pieces
+//   slider_knob_*              a 16 x 16 round thumb with an accent dot
+//   fader_track_*, fader_cap_* a 160 x 14 groove with ticks, a 12 x 22 cap
+//   thumbwheel_*               a 96 x 22 wheel (and _v, 22 x 96): frame with
+//                              a hole, the window's cylinder shading, and a
+//                              ridged strip repeating every 6 pixels
+void ValueControlMasks(Writer& out) {
+  {
+    const int h = 8;
+    struct Piece {
+      const char* name;
+      int w;
+      float x0, x1;  // the pill's extent in the piece's coordinates
+    };
+    for (const Piece& p : {Piece{"left", 6, 0, 40}, Piece{"mid", 4, -20, 24},
+                           Piece{"right", 6, -34, 6}}) {
+      const Mask shape = Fill(p.w, h, RoundRect(p.x0, 0, p.x1, h, 4));
+      const Mask well = Fill(p.w, h, RoundRect(p.x0 + 1, 1, p.x1 - 1, h - 1, 3));
+      const std::string n = std::string("slider_") + p.name;
+      out(n + "_border.png", Minus(shape, well));
+      out(n + "_well.png", well);
+      out(n + "_inset.png", TopFade(well, 3, 0.5f));
+    }
+    const int k = 16;
+    const Mask shape = Fill(k, k, Circle(8, 8, 8));
+    const Mask body = Fill(k, k, Circle(8, 8, 7));
+    out("slider_knob_border.png", Minus(shape, body));
+    out("slider_knob_body.png", body);
+    out("slider_knob_sheen.png", TopFade(body, 9, 0.18f));
+    out("slider_knob_shade.png", Edge(body, 1, 0.5f));
+    out("slider_knob_dot.png", Fill(k, k, Circle(8, 8, 2.2f)));
+  }
+  {
+    const int w = 160, h = 14;
+    const Mask groove = Fill(w, h, RoundRect(2, 5, w - 2, 9, 2));
+    out("fader_track_groove.png", groove);
+    out("fader_track_lip.png", Edge(groove, 1, 0.4f));
+    // Ticks under the thumb's middle at every tenth of its travel (the cap
+    // is 12 wide: the middle runs from 6 to w - 6).
+    Field ticks = Segment(-10, -10, -10, -9, 0.1f);
+    for (int i = 0; i <= 10; ++i) {
+      const float x = 6 + (w - 12) * i / 10.f;
+      const float len = i % 5 == 0 ? 3.5f : 2.f;
+      ticks = Union(ticks, Union(Segment(x, 0.5f, x, len, 0.5f),
+                                 Segment(x, h - len, x, h - 0.5f, 0.5f)));
+    }
+    out("fader_track_ticks.png", Fill(w, h, ticks));
+    const int cw = 12, ch = 22;
+    const Mask cap = Fill(cw, ch, RoundRect(0, 0, cw, ch, 2.5f));
+    const Mask body = Fill(cw, ch, RoundRect(1, 1, cw - 1, ch - 1, 1.5f));
+    out("fader_cap_border.png", Minus(cap, body));
+    out("fader_cap_body.png", body);
+    out("fader_cap_sheen.png", TopFade(body, 10, 0.18f));
+    out("fader_cap_line.png", Fill(cw, ch, RoundRect(2, 10, cw - 2, 12, 0.5f)));
+  }
+  {
+    const int w = 96, h = 22, period = 6;
+    const Mask outer = Fill(w, h, RoundRect(0, 0, w, h, 5));
+    const Mask body = Fill(w, h, RoundRect(1, 1, w - 1, h - 1, 4));
+    const Mask hole = Fill(w, h, RoundRect(4, 3, w - 4, h - 3, 2));
+    const Mask lip = Minus(Fill(w, h, RoundRect(3, 2, w - 3, h - 2, 3)), hole);
+    // The window: a cylinder lit from the front, dark towards its rims.
+    const float pi = 3.14159265f;
+    const Mask shading = Combine(hole, [&](int x, int, float v) {
+      const float u = Clamp01((x + 0.5f - 4) / (w - 8));
+      return v * (0.25f + 0.75f * std::sin(pi * u));
+    });
+    // The strip: a light ridge and a dark groove every period, so any
+    // window onto it repeats after one period.
+    Mask ridge(w + period, h), groove(w + period, h);
+    for (int y = 0; y < h; ++y)
+      for (int x = 0; x < w + period; ++x) {
+        const int phase = x % period;
+        ridge.at(x, y) = phase == 1 ? 1.f : phase == 0 || phase == 2 ? 0.35f : 0.f;
+        groove.at(x, y) = phase == 4 ? 1.f : phase == 5 ? 0.4f : 0.f;
+      }
+    const struct {
+      const char* name;
+      Mask m;
+    } layers[] = {
+        {"frame_shape", Minus(outer, hole)},  {"frame_border", Minus(outer, body)},
+        {"frame_body", Minus(body, hole)},    {"frame_sheen", TopFade(Minus(body, hole), 8, 0.15f)},
+        {"frame_lip", lip},                   {"window", shading},
+        {"strip_ridge", ridge},               {"strip_groove", groove},
+    };
+    for (const auto& l : layers) {
+      out(std::string("thumbwheel_") + l.name + ".png", l.m);
+      out(std::string("thumbwheel_") + l.name + "_v.png", Transposed(l.m));
+    }
+  }
+}
+
 void Generate(Writer& out) {
   // Push button: a 32 x 32 tool face with a plus glyph.
   RaisedFace(out, "push", 32, 32, 6);
@@ -480,6 +582,7 @@ void Generate(Writer& out) {
   out("treefunc_glyph_down.png", Fill(18, 18, [&](float x, float y) { return dots(x, y - 1); }));
   ScrollThumbMasks(out);
   InstrumentMasks(out);
+  ValueControlMasks(out);
 }
 
 }  // namespace

@@ -25,3 +25,4 @@
 #include "vorn/VornSimpleScrollBar.h"
 #include "vorn/VornAngleControl.h"
 #include "vorn/VornGLWindow.h"
+#include "vorn/VornSlider.h"
