@@ -20,3 +20,4 @@
 #include "vorn/VornImageCache.h"
 #include "vorn/VornValueNotify.h"
 #include "vorn/VornWindow.h"
+#include "vorn/VornEdit.h"
