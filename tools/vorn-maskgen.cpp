@@ -191,6 +191,13 @@ Field Triangle(float cx, float cy, float halfWidth, float height, int dir) {
   };
 }
 
+// The edits' other widgets: a 240 x 96 multi-line box and a 96 x 22
+// read-only value box, both sunken like the single-line field.
+void EditWidgetMasks(Writer& out) {
+  SunkenWell(out, "editbox", 240, 96, 4);
+  SunkenWell(out, "editvalue", 96, 22, 3);
+}
+
 void Generate(Writer& out) {
   // Push button: a 32 x 32 tool face with a plus glyph.
   RaisedFace(out, "push", 32, 32, 6);
@@ -298,6 +305,8 @@ void Generate(Writer& out) {
   const Field dots = Union(Circle(5, 9, 1.3f), Union(Circle(9, 9, 1.3f), Circle(13, 9, 1.3f)));
   out("treefunc_glyph.png", Fill(18, 18, dots));
   out("treefunc_glyph_down.png", Fill(18, 18, [&](float x, float y) { return dots(x, y - 1); }));
+
+  EditWidgetMasks(out);
 }
 
 }  // namespace
