@@ -473,6 +473,13 @@ void ValueControlMasks(Writer& out) {
   }
 }
 
+// The edits' other widgets: a 240 x 96 multi-line box and a 96 x 22
+// read-only value box, both sunken like the single-line field.
+void EditWidgetMasks(Writer& out) {
+  SunkenWell(out, "editbox", 240, 96, 4);
+  SunkenWell(out, "editvalue", 96, 22, 3);
+}
+
 void Generate(Writer& out) {
   // Push button: a 32 x 32 tool face with a plus glyph.
   RaisedFace(out, "push", 32, 32, 6);
@@ -583,6 +590,7 @@ void Generate(Writer& out) {
   ScrollThumbMasks(out);
   InstrumentMasks(out);
   ValueControlMasks(out);
+  EditWidgetMasks(out);
 }
 
 }  // namespace

@@ -26,3 +26,4 @@
 #include "vorn/VornAngleControl.h"
 #include "vorn/VornGLWindow.h"
 #include "vorn/VornSlider.h"
+#include "vorn/VornEdit.h"
