@@ -1,0 +1,391 @@
+// VornMultiEdit: construction, the text model (wrapping, editing, mapping),
+// scrolling and drawing. Keyboard and mouse reactions are in
+// VornMultiEditEvents.cpp.
+#include "vorn/VornMultiEdit.h"
+
+#include <wx/dcclient.h>
+#include <wx/dcmemory.h>
+
+#include <algorithm>
+
+#include "MultiEditText.h"
+#include "MultiEditWrap.h"
+#include "vorn/ValInterface.h"
+#include "vorn/VornControlGroup.h"
+
+namespace {
+constexpr int kBlinkTimerId = 101;
+constexpr int kDragTimerId = 102;
+constexpr int kScrollBarWidth = 11;
+constexpr long kNoScrollBarStyle = 1L << 31;  // the sign bit of a 32-bit style
+}  // namespace
+
+VornMultiEdit::VornMultiEdit()
+    : m_blinkTimer(this, kBlinkTimerId),
+      m_ibeamCursor(wxCURSOR_IBEAM),
+      m_dragTimer(this, kDragTimerId) {}
+
+VornMultiEdit::VornMultiEdit(const wxBitmap* picture, VornEditInfo& info, int x, int y,
+                             wxWindow* parent, int id, bool editable, VornControlGroup* group,
+                             long style)
+    : VornMultiEdit() {
+  VornMultiEdit::Create(picture, info, x, y, parent, id, editable, group, style);
+}
+
+VornMultiEdit::~VornMultiEdit() {
+  m_blinkTimer.Stop();
+  m_dragTimer.Stop();
+  // The bar is a child of our parent; wx may already have deleted it when
+  // the parent goes first, which the weak reference notices.
+  if (m_pScrollBar) delete m_pScrollBar.get();
+}
+
+bool VornMultiEdit::Create(const wxBitmap* picture, VornEditInfo& info, int x, int y,
+                           wxWindow* parent, int id, bool editable, VornControlGroup* group,
+                           long style) {
+  m_pPicture = picture && picture->IsOk() ? picture : nullptr;
+  const int w = m_pPicture ? m_pPicture->GetWidth() : info.x + info.width;
+  const int h = m_pPicture ? m_pPicture->GetHeight() : info.y + info.height;
+  m_bScrollAllowed = (style & kNoScrollBarStyle) == 0;
+  const long wxStyle = (style & ~kNoScrollBarStyle) | wxWANTS_CHARS;
+  const bool ok = VornControl::Create(x, y, w, h, parent, id, group, wxStyle);
+  m_backBuffer = wxBitmap(std::max(w, 1), std::max(h, 1));
+  m_bEditable = editable;
+  m_textX = info.x;
+  m_textY = info.y;
+  m_textWidth = info.width;
+  m_textHeight = info.height;
+  m_textColour = info.colour1;
+  m_selectionColour = info.colour2;
+  m_fillColour = info.background;
+  // Scroll bar colours until the host sets its own.
+  m_scrollColours[0] = m_textColour;
+  m_scrollColours[1] = m_fillColour.IsOk() ? m_fillColour : *wxBLACK;
+  m_scrollColours[2] = m_selectionColour;
+  InitState();
+  if (info.font.IsOk())
+    SetFont(info.font);  // also measures and wraps
+  else
+    SetFont(GetFont());
+  return ok;
+}
+
+void VornMultiEdit::InitState() {
+  m_caret = m_selStart = m_selEnd = m_anchor = 0;
+  m_firstVisibleLine = 0;
+  m_bModified = true;
+  m_keptX = -1;
+}
+
+// ---- Text ------------------------------------------------------------------
+
+void VornMultiEdit::SetText(const VornString& text, bool notify) {
+  m_text = text;
+  m_caret = m_selStart = m_selEnd = m_anchor = 0;
+  m_keptX = -1;
+  UpdateLineBreaks();
+  m_bModified = true;
+  CheckForScroll();
+  Refresh(false);
+  if (notify && m_pControlGroup) ReportText();
+}
+
+void VornMultiEdit::GetText(VornString& out) {
+  out = m_text;
+}
+
+void VornMultiEdit::SetEditable(bool editable) {
+  m_bEditable = editable;
+  Refresh(false);
+}
+
+bool VornMultiEdit::IsEditable() const {
+  return m_bEditable;
+}
+
+bool VornMultiEdit::SetFont(const wxFont& font) {
+  const bool changed = VornControl::SetFont(font);
+  SetLineHeight();
+  UpdateLineBreaks();
+  CheckForScroll();
+  Refresh(false);
+  return changed;
+}
+
+void VornMultiEdit::SetLineHeight() {
+  wxClientDC dc(this);
+  dc.SetFont(GetFont());
+  m_lineHeight = std::max(1, dc.GetCharHeight());
+  // A box lower than one line still shows (the top of) one.
+  m_visibleLines = std::max(1, m_textHeight / m_lineHeight);
+}
+
+void VornMultiEdit::ReportText() {
+  m_pControlGroup->ControlSelected(GetId(), this);
+  StringValChanged hint(m_text);
+  hint.m_bFlag = true;
+  // A receiver that redraws the box meanwhile shows no caret.
+  const bool focus = m_bHasFocus;
+  m_bHasFocus = false;
+  m_pControlGroup->Update(0, this, &hint);
+  m_bHasFocus = focus;
+}
+
+// ---- Wrapping ----------------------------------------------------------------
+
+bool VornMultiEdit::FindToken(const VornString& text, VornString& token, int& index) {
+  wxClientDC dc(this);
+  dc.SetFont(GetFont());
+  token = multiedit::NextToken(text, index, m_textWidth, multiedit::DcWidth(dc));
+  return !token.empty();
+}
+
+void VornMultiEdit::UpdateLineBreaks() {
+  wxClientDC dc(this);
+  dc.SetFont(GetFont());
+  m_lineStarts = multiedit::WrapFrom(m_text, m_textWidth, multiedit::DcWidth(dc));
+  m_lineCount = static_cast<int>(m_lineStarts.size());
+}
+
+void VornMultiEdit::TextChanged(int at, int removed, int inserted) {
+  wxClientDC dc(this);
+  dc.SetFont(GetFont());
+  multiedit::Rewrap(m_text, m_lineStarts, at, removed, inserted, m_textWidth,
+                    multiedit::DcWidth(dc));
+  m_lineCount = static_cast<int>(m_lineStarts.size());
+  m_bModified = true;
+  m_keptX = -1;
+}
+
+// ---- Editing primitives --------------------------------------------------
+
+bool VornMultiEdit::DeleteSelection() {
+  if (m_selStart == m_selEnd) return false;
+  const int start = std::clamp(std::min(m_selStart, m_selEnd), 0, int(m_text.size()));
+  const int end = std::clamp(std::max(m_selStart, m_selEnd), 0, int(m_text.size()));
+  m_text.erase(start, end - start);
+  m_caret = m_selStart = m_selEnd = m_anchor = start;
+  TextChanged(start, end - start, 0);
+  return true;
+}
+
+void VornMultiEdit::Insert(char c) {
+  Insert(VornString(1, c));
+}
+
+void VornMultiEdit::Insert(const VornString& text) {
+  const int at = std::clamp(m_caret, 0, int(m_text.size()));
+  m_text.insert(at, text);
+  m_caret = m_selStart = m_selEnd = m_anchor = at + int(text.size());
+  TextChanged(at, 0, int(text.size()));
+}
+
+void VornMultiEdit::ReplaceSelection(const VornString& text) {
+  DeleteSelection();
+  Insert(text);
+}
+
+void VornMultiEdit::Delete() {
+  if (DeleteSelection()) return;
+  if (m_caret >= int(m_text.size())) return;
+  m_text.erase(m_caret, 1);
+  m_selStart = m_selEnd = m_anchor = m_caret;
+  TextChanged(m_caret, 1, 0);
+}
+
+void VornMultiEdit::Backspace() {
+  if (DeleteSelection()) return;
+  if (m_caret <= 0) return;
+  --m_caret;
+  m_text.erase(m_caret, 1);
+  m_selStart = m_selEnd = m_anchor = m_caret;
+  TextChanged(m_caret, 1, 0);
+}
+
+void VornMultiEdit::GetSelection(int& start, int& end) const {
+  start = std::min(m_selStart, m_selEnd);
+  end = std::max(m_selStart, m_selEnd);
+}
+
+void VornMultiEdit::SetSelection(int start, int end) {
+  const int n = int(m_text.size());
+  m_selStart = std::clamp(start, 0, n);
+  m_selEnd = std::clamp(end, 0, n);
+  m_anchor = m_selStart;
+  UpdateCaretPos(m_selEnd);
+  Refresh(false);
+}
+
+// ---- Caret, mapping and scrolling --------------------------------------------
+
+void VornMultiEdit::UpdateCaretPos(int index) {
+  m_caret = std::clamp(index, 0, int(m_text.size()));
+  const int line = GetCurrentLineNo();
+  const int top = GetTopLine();
+  if (line >= top + m_visibleLines)
+    SetScrollPos(m_lineHeight);
+  else if (line < top && m_firstVisibleLine > 0)
+    SetScrollPos(-m_lineHeight);
+}
+
+int VornMultiEdit::GetCurrentLineNo() const {
+  return multiedit::LineOf(m_lineStarts, m_caret);
+}
+
+int VornMultiEdit::GetMaxFirstLine() const {
+  return std::max(0, m_lineCount - m_visibleLines);
+}
+
+int VornMultiEdit::GetTopLine() const {
+  // Rounded, so that a position reached through the scroll bar's real value
+  // lands on the line it means.
+  return std::clamp(int(m_firstVisibleLine + 0.5f), 0, std::max(0, m_lineCount - 1));
+}
+
+void VornMultiEdit::SetScrollPos(double delta) {
+  ScrollToLine(m_firstVisibleLine + delta / std::max(1, m_lineHeight));
+}
+
+void VornMultiEdit::ScrollToLine(double line) {
+  m_firstVisibleLine = float(std::clamp(line, 0.0, double(GetMaxFirstLine())));
+  Refresh(false);
+}
+
+void VornMultiEdit::IndexToScreen(int index, int& line, int& x) {
+  line = multiedit::LineOf(m_lineStarts, index);
+  const int start = m_lineStarts[line];
+  x = index > start ? TextWidth(m_text.substr(start, index - start)) : 0;
+}
+
+int VornMultiEdit::ScreenToIndex(int x, int y) {
+  const int line = GetTopLine() + (y < 0 ? -1 : y / m_lineHeight);
+  return IndexOnLine(std::clamp(line, 0, m_lineCount - 1), x);
+}
+
+int VornMultiEdit::IndexOnLine(int line, int x) {
+  const int start = m_lineStarts[line];
+  const int last = multiedit::LastCaretIndex(m_text, m_lineStarts, line);
+  wxClientDC dc(this);
+  dc.SetFont(GetFont());
+  const wxString shown = ToWx(m_text.substr(start, last - start));
+  return start + multiedit::CharacterAt(shown, x, dc);
+}
+
+// ---- Scroll bar ----------------------------------------------------------------
+
+void VornMultiEdit::SetScrollColours(const wxColour& first, const wxColour& second,
+                                     const wxColour& third) {
+  m_scrollColours[0] = first;
+  m_scrollColours[1] = second;
+  m_scrollColours[2] = third;
+  // The bar takes its colours when it is made: make it again.
+  if (m_pScrollBar) delete m_pScrollBar.get();
+  CheckForScroll();
+}
+
+void VornMultiEdit::CheckForScroll() {
+  if (!m_bScrollAllowed || !GetParent()) return;
+  const bool fits = m_lineCount <= m_visibleLines;
+  if (!m_pScrollBar && !fits) {
+    m_pScrollBar =
+        new VornMultiEditScrollBar(m_scrollColours[0], m_scrollColours[1], m_scrollColours[2], 0, 0,
+                                   std::max(m_textHeight, 1), GetParent());
+    m_pScrollBar->SetBox(this);
+    PlaceScrollBar();
+  }
+  if (fits) {
+    ScrollToLine(0);
+    if (m_pScrollBar) m_pScrollBar->Show(false);
+    return;
+  }
+  m_pScrollBar->Show(true);
+  SyncScrollBar();
+  Refresh(false);
+}
+
+void VornMultiEdit::SyncScrollBar() {
+  const int maxFirst = GetMaxFirstLine();
+  VornMultiEditScrollBar& bar = *m_pScrollBar;
+  bar.SetFractionVal(double(m_visibleLines) / std::max(1, m_lineCount));
+  bar.SetSliderVal(maxFirst > 0 ? m_firstVisibleLine / maxFirst : 0.0, false);
+  // The bar counts steps in pixels of content height / fraction; one line
+  // is a 1 / maxFirst change of the value. End buttons and the wheel then
+  // move by whole lines.
+  if (maxFirst > 0) {
+    const double line = bar.GetHeight() / bar.GetFractionVal() / maxFirst;
+    bar.SetMomentSetpVal(line);
+    bar.SetInitialStepVal(line);
+  }
+}
+
+void VornMultiEdit::PlaceScrollBar() {
+  if (!m_pScrollBar) return;
+  m_pScrollBar->SetWindowPos(GetPosX() + m_textX + m_textWidth, GetPosY() + m_textY,
+                             kScrollBarWidth, std::max(m_textHeight, 1));
+}
+
+// ---- Drawing ---------------------------------------------------------------
+
+void VornMultiEdit::OnDraw(wxDC* dc) {
+  if (m_backBuffer.GetWidth() != GetWidth() || m_backBuffer.GetHeight() != GetHeight())
+    m_backBuffer = wxBitmap(std::max(GetWidth(), 1), std::max(GetHeight(), 1));
+  wxMemoryDC mdc(m_backBuffer);
+  mdc.SetBackground(wxBrush(m_fillColour.IsOk() ? m_fillColour : *wxWHITE));
+  mdc.Clear();
+  if (m_pPicture) mdc.DrawBitmap(*m_pPicture, 0, 0, true);
+  mdc.SetFont(GetFont());
+  mdc.SetClippingRegion(GetTextArea());
+  const int top = GetTopLine();
+  for (int line = top, y = m_textY; line < m_lineCount && y < m_textY + m_textHeight;
+       ++line, y += m_lineHeight)
+    DrawSingleLine(mdc, line, y);
+  DrawBlinkingCaret(mdc);
+  mdc.DestroyClippingRegion();
+  mdc.SelectObject(wxNullBitmap);
+  dc->DrawBitmap(m_backBuffer, 0, 0);
+}
+
+void VornMultiEdit::DrawSingleLine(wxDC& dc, int line, int y) {
+  const int start = m_lineStarts[line];
+  const int end = multiedit::LineEnd(m_text, m_lineStarts, line);
+  int selStart, selEnd;
+  GetSelection(selStart, selEnd);
+  selStart = std::clamp(selStart, start, end);
+  selEnd = std::clamp(selEnd, start, end);
+  dc.SetTextForeground(m_textColour);
+  dc.SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
+  int x = m_textX;
+  // Before, in and after the selection; empty parts draw nothing.
+  const int cuts[] = {start, selStart, selEnd, end};
+  for (int part = 0; part < 3; ++part) {
+    if (cuts[part + 1] <= cuts[part]) continue;
+    const wxString piece = ToWx(m_text.substr(cuts[part], cuts[part + 1] - cuts[part]));
+    const wxSize size = dc.GetTextExtent(piece);
+    if (part == 1) {
+      dc.SetPen(*wxTRANSPARENT_PEN);
+      dc.SetBrush(wxBrush(m_selectionColour));
+      dc.DrawRectangle(x, y, size.x, m_lineHeight);
+    }
+    dc.DrawText(piece, x, y);
+    x += size.x;
+  }
+}
+
+void VornMultiEdit::DrawBlinkingCaret(wxDC& dc) {
+  if (!m_bEditable || !m_bHasFocus || !m_bBlinkOn) return;
+  int line, x;
+  IndexToScreen(m_caret, line, x);
+  const int y = m_textY + (line - GetTopLine()) * m_lineHeight;
+  dc.SetPen(wxPen(m_textColour, 2));
+  dc.DrawLine(m_textX + x, y, m_textX + x, y + m_lineHeight);
+}
+
+bool VornMultiEdit::InTextArea(int x, int y) const {
+  return x >= m_textX && x <= m_textX + m_textWidth && y >= m_textY && y <= m_textY + m_textHeight;
+}
+
+int VornMultiEdit::TextWidth(const VornString& piece) {
+  wxClientDC dc(this);
+  dc.SetFont(GetFont());
+  return dc.GetTextExtent(ToWx(piece)).x;
+}
