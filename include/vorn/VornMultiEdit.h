@@ -8,6 +8,7 @@
 #include <wx/timer.h>
 #include <wx/weakref.h>
 
+#include <memory>
 #include <vector>
 
 #include "vorn/AssetManager.h"
@@ -15,6 +16,10 @@
 #include "vorn/VornSimpleScrollBar.h"
 
 class VornMultiEdit;
+namespace VornEditShared {
+class CaretBlink;
+class DragScroll;
+}  // namespace VornEditShared
 
 // The box's scroll bar: a child of the box's parent at the right edge of the
 // text area. Its value 0..1 is the first visible line over the last possible
@@ -162,10 +167,10 @@ class VornMultiEdit : public VornControl {
   wxWeakRef<VornMultiEditScrollBar> m_pScrollBar;
   VornString m_text;
   wxBitmap m_backBuffer;
-  wxTimer m_blinkTimer;
+  std::unique_ptr<VornEditShared::CaretBlink> m_pBlink;  // id 101
   wxCursor m_ibeamCursor;
-  wxTimer m_dragTimer;
-  wxMouseEvent m_lastMotion;
+  // Id 102; keeps the last drag motion for replay.
+  std::unique_ptr<VornEditShared::DragScroll> m_pDragScroll;
   bool m_bEditable = true;
   int m_caret = 0;
   int m_selStart = 0;
@@ -181,12 +186,11 @@ class VornMultiEdit : public VornControl {
   wxColour m_textColour;
   wxColour m_selectionColour;
 
-  // Beyond the listed state: the picture, fill, focus, caret phase, the
+  // Beyond the listed state: the picture, fill, focus, the
   // anchor of a selection and the x that Up and Down keep.
   const wxBitmap* m_pPicture = nullptr;  // not owned
   wxColour m_fillColour;
   bool m_bHasFocus = false;
-  bool m_bBlinkOn = true;
   bool m_bCursorShown = false;
   int m_anchor = 0;
   int m_keptX = -1;  // -1: not moving vertically

@@ -8,22 +8,21 @@
 
 #include <algorithm>
 
+#include "EditShared.h"
 #include "MultiEditText.h"
 #include "MultiEditWrap.h"
 #include "vorn/ValInterface.h"
 #include "vorn/VornControlGroup.h"
 
 namespace {
-constexpr int kBlinkTimerId = 101;
-constexpr int kDragTimerId = 102;
 constexpr int kScrollBarWidth = 11;
 constexpr long kNoScrollBarStyle = 1L << 31;  // the sign bit of a 32-bit style
 }  // namespace
 
 VornMultiEdit::VornMultiEdit()
-    : m_blinkTimer(this, kBlinkTimerId),
+    : m_pBlink(std::make_unique<VornEditShared::CaretBlink>(this)),
       m_ibeamCursor(wxCURSOR_IBEAM),
-      m_dragTimer(this, kDragTimerId) {}
+      m_pDragScroll(std::make_unique<VornEditShared::DragScroll>(this)) {}
 
 VornMultiEdit::VornMultiEdit(const wxBitmap* picture, VornEditInfo& info, int x, int y,
                              wxWindow* parent, int id, bool editable, VornControlGroup* group,
@@ -33,8 +32,8 @@ VornMultiEdit::VornMultiEdit(const wxBitmap* picture, VornEditInfo& info, int x,
 }
 
 VornMultiEdit::~VornMultiEdit() {
-  m_blinkTimer.Stop();
-  m_dragTimer.Stop();
+  m_pBlink->Stop();
+  m_pDragScroll->Cancel();
   // The bar is a child of our parent; wx may already have deleted it when
   // the parent goes first, which the weak reference notices.
   if (m_pScrollBar) delete m_pScrollBar.get();
@@ -49,6 +48,7 @@ bool VornMultiEdit::Create(const wxBitmap* picture, VornEditInfo& info, int x, i
   m_bScrollAllowed = (style & kNoScrollBarStyle) == 0;
   const long wxStyle = (style & ~kNoScrollBarStyle) | wxWANTS_CHARS;
   const bool ok = VornControl::Create(x, y, w, h, parent, id, group, wxStyle);
+  m_bForwardKeyDown = false;  // skipped presses must become characters
   m_backBuffer = wxBitmap(std::max(w, 1), std::max(h, 1));
   m_bEditable = editable;
   m_textX = info.x;
@@ -268,7 +268,7 @@ int VornMultiEdit::IndexOnLine(int line, int x) {
   wxClientDC dc(this);
   dc.SetFont(GetFont());
   const wxString shown = ToWx(m_text.substr(start, last - start));
-  return start + multiedit::CharacterAt(shown, x, dc);
+  return start + VornEditShared::MapXToCharacter(shown, x, dc);
 }
 
 // ---- Scroll bar ----------------------------------------------------------------
@@ -372,7 +372,7 @@ void VornMultiEdit::DrawSingleLine(wxDC& dc, int line, int y) {
 }
 
 void VornMultiEdit::DrawBlinkingCaret(wxDC& dc) {
-  if (!m_bEditable || !m_bHasFocus || !m_bBlinkOn) return;
+  if (!m_bEditable || !m_bHasFocus || !m_pBlink->CaretShown()) return;
   int line, x;
   IndexToScreen(m_caret, line, x);
   const int y = m_textY + (line - GetTopLine()) * m_lineHeight;

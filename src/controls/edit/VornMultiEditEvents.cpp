@@ -1,20 +1,18 @@
 // VornMultiEdit: keyboard, mouse, focus, timer and size reactions.
-#include <wx/clipbrd.h>
 #include <wx/dcclient.h>
 
 #include <algorithm>
 #include <cctype>
 
+#include "EditShared.h"
 #include "MultiEditText.h"
 #include "MultiEditWrap.h"
 #include "vorn/VornControlGroup.h"
 #include "vorn/VornMultiEdit.h"
 
 namespace {
-constexpr int kBlinkTimerId = 101;
-constexpr int kDragTimerId = 102;
-constexpr int kBlinkMs = 500;
-constexpr int kDragRepeatMs = 50;
+using VornEditShared::CaretBlink;
+using VornEditShared::DragScroll;
 
 // The letter of a Control combination, lower case, whether wx delivered the
 // letter or its control code (1 for A ...).
@@ -30,8 +28,8 @@ wxBEGIN_EVENT_TABLE(VornMultiEdit, VornControl) EVT_CHAR(VornMultiEdit::LocalCha
         EVT_LEFT_DCLICK(VornMultiEdit::LocalLeftDClick) EVT_MOTION(VornMultiEdit::LocalMotion)
             EVT_ENTER_WINDOW(VornMultiEdit::LocalEnterWindow)
                 EVT_LEAVE_WINDOW(VornMultiEdit::LocalLeaveWindow)
-                    EVT_TIMER(kBlinkTimerId, VornMultiEdit::LocalTimer)
-                        EVT_TIMER(kDragTimerId, VornMultiEdit::ShooftyTimer)
+                    EVT_TIMER(CaretBlink::kTimerId, VornMultiEdit::LocalTimer)
+                        EVT_TIMER(DragScroll::kTimerId, VornMultiEdit::ShooftyTimer)
                             EVT_SET_FOCUS(VornMultiEdit::LocalSetFocus)
                                 EVT_KILL_FOCUS(VornMultiEdit::LocalKillFocus)
                                     EVT_KEY_UP(VornMultiEdit::OnVornKeyUp)
@@ -161,18 +159,13 @@ void VornMultiEdit::MoveToLineEdge(bool end, bool extend) {
 void VornMultiEdit::CopySelection() {
   int start, end;
   GetSelection(start, end);
-  if (start == end || !wxTheClipboard->Open()) return;
-  wxTheClipboard->SetData(new wxTextDataObject(ToWx(m_text.substr(start, end - start))));
-  wxTheClipboard->Close();
+  if (start < end) VornEditShared::CopyToClipboard(ToWx(m_text.substr(start, end - start)));
 }
 
 void VornMultiEdit::PasteClipboard() {
-  if (!wxTheClipboard->Open()) return;
-  wxTextDataObject data;
-  const bool got = wxTheClipboard->IsSupported(wxDF_TEXT) && wxTheClipboard->GetData(data);
-  wxTheClipboard->Close();
-  if (!got) return;
-  ReplaceSelection(FromWx(data.GetText()));
+  wxString pasted;
+  if (!VornEditShared::PasteFromClipboard(pasted)) return;
+  ReplaceSelection(FromWx(pasted));
   // A long paste may end many lines down: bring its end into view.
   for (int guard = m_lineCount; guard > 0; --guard) {
     const int line = GetCurrentLineNo();
@@ -182,10 +175,12 @@ void VornMultiEdit::PasteClipboard() {
 }
 
 void VornMultiEdit::SelectWordAt(int index) {
-  auto isSpace = [](char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; };
-  int start = index, end = index;
-  while (start > 0 && !isSpace(m_text[start - 1])) --start;
-  while (end < int(m_text.size()) && !isSpace(m_text[end])) ++end;
+  // index is a boundary: the word may lie on either side of it.
+  const wxString text = ToWx(m_text);
+  int start, end;
+  if (!VornEditShared::WordAt(text, index, start, end) &&
+      !VornEditShared::WordAt(text, index - 1, start, end))
+    return;
   m_anchor = m_selStart = start;
   m_selEnd = end;
   UpdateCaretPos(end);
@@ -207,7 +202,7 @@ void VornMultiEdit::LocalLeftDown(wxMouseEvent& event) {
 void VornMultiEdit::LocalLeftUp(wxMouseEvent& event) {
   event.Skip();
   m_bDragging = false;
-  m_dragTimer.Stop();
+  m_pDragScroll->Cancel();
   ReleaseMouse();
 }
 
@@ -232,8 +227,7 @@ void VornMultiEdit::LocalMotion(wxMouseEvent& event) {
   DragTo(x, y);
   if (!InTextArea(x, y)) {
     // Keep scrolling while the pointer stays outside.
-    m_lastMotion = event;
-    m_dragTimer.StartOnce(kDragRepeatMs);
+    m_pDragScroll->Arm(event);
   }
 }
 
@@ -248,7 +242,9 @@ void VornMultiEdit::DragTo(int x, int y) {
 }
 
 void VornMultiEdit::ShooftyTimer(wxTimerEvent&) {
-  if (m_bDragging) LocalMotion(m_lastMotion);
+  if (!m_bDragging) return;
+  wxMouseEvent motion = m_pDragScroll->Motion();
+  LocalMotion(motion);
 }
 
 void VornMultiEdit::LocalEnterWindow(wxMouseEvent& event) {
@@ -281,15 +277,14 @@ void VornMultiEdit::LocalSetFocus(wxFocusEvent& event) {
   event.Skip();
   if (!m_bEnabled) return;
   m_bHasFocus = true;
-  m_bBlinkOn = true;
-  m_blinkTimer.Start(kBlinkMs);
+  m_pBlink->Start();
   m_bModified = false;
   Refresh(false);
 }
 
 void VornMultiEdit::LocalKillFocus(wxFocusEvent& event) {
   event.Skip();
-  m_blinkTimer.Stop();
+  m_pBlink->Stop();
   m_bHasFocus = false;
   m_bDragging = false;
   ReleaseMouse();
@@ -299,7 +294,7 @@ void VornMultiEdit::LocalKillFocus(wxFocusEvent& event) {
 }
 
 void VornMultiEdit::LocalTimer(wxTimerEvent&) {
-  m_bBlinkOn = !m_bBlinkOn;
+  m_pBlink->Toggle();
   Refresh(false);
 }
 

@@ -168,3 +168,35 @@ TEST_F(MultiEdit, DrawsSelectionAndCaret) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST_F(MultiEditFixture, CutAndPasteAcrossLines) {
+  box->SetText("one two\nthree", false);
+  ClickText(Width("one "), 2);
+  Key(WXK_END, true);
+  Char('x', true);  // Control + X
+  EXPECT_EQ(Text(), "one \nthree");
+  Key(WXK_DOWN);
+  Key(WXK_END);
+  Char(WXK_CONTROL_V, true);  // as wx delivers Control + V
+  EXPECT_EQ(Text(), "one \nthreetwo");
+  EXPECT_EQ(box->GetCaret(), 13);
+}
+
+TEST_F(MultiEditFixture, BlinkTimerTogglesTheCaretOnlyWhileFocused) {
+  wxFocusEvent gain(wxEVT_SET_FOCUS), lose(wxEVT_KILL_FOCUS);
+  box->GetEventHandler()->ProcessEvent(gain);
+  const wxBitmap shown = Render(box, box->GetWidth(), box->GetHeight());
+  wxTimer timer;
+  wxTimerEvent tick(timer);
+  box->LocalTimer(tick);
+  const wxBitmap hidden = Render(box, box->GetWidth(), box->GetHeight());
+  EXPECT_FALSE(SamePixels(shown, hidden));
+  box->LocalTimer(tick);
+  EXPECT_TRUE(SamePixels(shown, Render(box, box->GetWidth(), box->GetHeight())));
+  box->GetEventHandler()->ProcessEvent(lose);
+  EXPECT_TRUE(SamePixels(hidden, Render(box, box->GetWidth(), box->GetHeight())));
+}
+
+}  // namespace
