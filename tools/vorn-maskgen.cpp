@@ -191,6 +191,18 @@ Field Triangle(float cx, float cy, float halfWidth, float height, int dir) {
   };
 }
 
+// Image-based scroll bar thumb: a 10 x 40 raised face with a grip in the
+// middle and a mark at the end the thumb has reached.
+void ScrollThumbMasks(Writer& out) {
+  const int w = 10, h = 40;
+  RaisedFace(out, "scrollthumb", w, h, 4);
+  const Field grip = Union(Segment(3, 16, 7, 16, 0.6f),
+                           Union(Segment(3, 20, 7, 20, 0.6f), Segment(3, 24, 7, 24, 0.6f)));
+  out("scrollthumb_grip.png", Fill(w, h, grip));
+  out("scrollthumb_start.png", Fill(w, h, Segment(3, 4.5f, 7, 4.5f, 0.9f)));
+  out("scrollthumb_end.png", Fill(w, h, Segment(3, 35.5f, 7, 35.5f, 0.9f)));
+}
+
 void Generate(Writer& out) {
   // Push button: a 32 x 32 tool face with a plus glyph.
   RaisedFace(out, "push", 32, 32, 6);
@@ -298,6 +310,7 @@ void Generate(Writer& out) {
   const Field dots = Union(Circle(5, 9, 1.3f), Union(Circle(9, 9, 1.3f), Circle(13, 9, 1.3f)));
   out("treefunc_glyph.png", Fill(18, 18, dots));
   out("treefunc_glyph_down.png", Fill(18, 18, [&](float x, float y) { return dots(x, y - 1); }));
+  ScrollThumbMasks(out);
 }
 
 }  // namespace
