@@ -203,6 +203,13 @@ void ScrollThumbMasks(Writer& out) {
   out("scrollthumb_end.png", Fill(w, h, Segment(3, 35.5f, 7, 35.5f, 0.9f)));
 }
 
+// The edits' other widgets: a 240 x 96 multi-line box and a 96 x 22
+// read-only value box, both sunken like the single-line field.
+void EditWidgetMasks(Writer& out) {
+  SunkenWell(out, "editbox", 240, 96, 4);
+  SunkenWell(out, "editvalue", 96, 22, 3);
+}
+
 void Generate(Writer& out) {
   // Push button: a 32 x 32 tool face with a plus glyph.
   RaisedFace(out, "push", 32, 32, 6);
@@ -311,6 +318,8 @@ void Generate(Writer& out) {
   out("treefunc_glyph.png", Fill(18, 18, dots));
   out("treefunc_glyph_down.png", Fill(18, 18, [&](float x, float y) { return dots(x, y - 1); }));
   ScrollThumbMasks(out);
+
+  EditWidgetMasks(out);
 }
 
 }  // namespace

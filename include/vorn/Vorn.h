@@ -21,3 +21,5 @@
 #include "vorn/VornValueNotify.h"
 #include "vorn/VornWindow.h"
 #include "vorn/VornSimpleScrollBar.h"
+#include "vorn/VornEdit.h"
+#include "vorn/VornMultiEdit.h"
