@@ -108,7 +108,7 @@ template <int N>
 void BM_MeasureWholeText(benchmark::State& state) {
   if (!HaveDisplay(state)) return;
   BoxSetup setup(N);
-  const wxString whole = wxString::From8BitData(setup.text.data(), setup.text.size());
+  const wxString whole = wxString::FromUTF8(setup.text.c_str());
   wxClientDC dc(setup.box);
   dc.SetFont(setup.box->GetFont());
   for (auto _ : state) benchmark::DoNotOptimize(dc.GetTextExtent(whole));
@@ -116,11 +116,11 @@ void BM_MeasureWholeText(benchmark::State& state) {
 
 }  // namespace
 
-#define VORN_MULTIEDIT_BENCH(figure, name, n)                                          \
+#define VORN_MULTIEDIT_BENCH(figure, name, n)                                     \
   BENCHMARK(figure<n>)->Name(name)->Unit(benchmark::kMicrosecond)->UseRealTime(); \
-  BENCHMARK(BM_MeasureWholeText<n>)                                              \
-      ->Name(name "/baseline")                                                   \
-      ->Unit(benchmark::kMicrosecond)                                            \
+  BENCHMARK(BM_MeasureWholeText<n>)                                               \
+      ->Name(name "/baseline")                                                    \
+      ->Unit(benchmark::kMicrosecond)                                             \
       ->UseRealTime()
 
 VORN_MULTIEDIT_BENCH(BM_TypeAtEnd, "MultiEdit/Type1k", 1000);

@@ -21,8 +21,8 @@ class CaretBlink;
 class DragScroll;
 }  // namespace VornEditShared
 
-// The box's scroll bar: a child of the box's parent at the right edge of the
-// text area. Its value 0..1 is the first visible line over the last possible
+// The box's scroll bar: a child of the box's parent, inside the right edge
+// of the text area. Its value 0..1 is the first visible line over the last possible
 // first line, so the thumb and the view always agree.
 class VornMultiEditScrollBar : public VornSimpleScrollBar {
  public:
@@ -61,7 +61,8 @@ class VornMultiEdit : public VornControl {
   using VornControl::Create;
 
   // ---- The text -----------------------------------------------------------
-  // Stores, re-wraps and refreshes; with notify reports the text.
+  // Texts are UTF-8 at this interface. Stores, re-wraps and refreshes; with
+  // notify reports the text.
   virtual void SetText(const VornString& text, bool notify);
   virtual void GetText(VornString& out);
   virtual void SetEditable(bool editable);
@@ -82,7 +83,7 @@ class VornMultiEdit : public VornControl {
   // Re-wraps the whole text.
   void UpdateLineBreaks();
   // The token at index (advancing index past it); false at the text's end.
-  bool FindToken(const VornString& text, VornString& token, int& index);
+  bool FindToken(const wxString& text, wxString& token, int& index);
 
   // ---- Editing primitives (each sets modified and re-wraps) ---------------
   void Insert(char c);
@@ -118,6 +119,9 @@ class VornMultiEdit : public VornControl {
   bool IsModified() const { return m_bModified; }
   bool HasFocusFlag() const { return m_bHasFocus; }
   wxRect GetTextArea() const { return wxRect(m_textX, m_textY, m_textWidth, m_textHeight); }
+  // The width lines wrap to: the text area less the scroll bar's strip
+  // when a bar is allowed.
+  int GetWrapWidth() const;
   // The largest first visible line: the line count less the visible lines.
   int GetMaxFirstLine() const;
 
@@ -144,7 +148,8 @@ class VornMultiEdit : public VornControl {
   void SetLineHeight();
   // Re-wraps after text [at, at + removed) became `inserted` characters.
   void TextChanged(int at, int removed, int inserted);
-  void ReplaceSelection(const VornString& text);
+  void InsertText(const wxString& text);
+  void ReplaceSelection(const wxString& text);
   bool DeleteSelection();
   void MoveCaret(int index, bool extend);
   void MoveVertically(int lines, bool extend);
@@ -158,14 +163,14 @@ class VornMultiEdit : public VornControl {
   void PlaceScrollBar();
   bool InTextArea(int x, int y) const;
   void DragTo(int x, int y);
-  int TextWidth(const VornString& piece);
+  int TextWidth(const wxString& piece);
 
   wxColour m_scrollColours[3];
   bool m_bScrollAllowed = true;
   // Created on first need as a child of our parent; deleted with the box
   // unless wx deleted it first.
   wxWeakRef<VornMultiEditScrollBar> m_pScrollBar;
-  VornString m_text;
+  wxString m_text;  // indices count characters
   wxBitmap m_backBuffer;
   std::unique_ptr<VornEditShared::CaretBlink> m_pBlink;  // id 101
   wxCursor m_ibeamCursor;

@@ -3,13 +3,14 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
+
+#include "EditShared.h"
 
 namespace multiedit {
 namespace {
 
-bool IsSpace(char c) {
-  return std::isspace(static_cast<unsigned char>(c)) != 0;
+bool IsSpace(wxUniChar c) {
+  return VornEditShared::IsBlank(c);
 }
 
 // Width of single characters, measured once per wrap: white space makes up
@@ -17,9 +18,11 @@ bool IsSpace(char c) {
 class CharWidths {
  public:
   explicit CharWidths(const TextWidth& width) : m_width(width) { m_known.fill(-1); }
-  int operator()(char c) {
-    int& w = m_known[static_cast<unsigned char>(c)];
-    if (w < 0) w = m_width(std::string(1, c));
+  int operator()(wxUniChar c) {
+    const wxUint32 code = c.GetValue();
+    if (code >= m_known.size()) return m_width(wxString(c));
+    int& w = m_known[code];
+    if (w < 0) w = m_width(wxString(c));
     return w;
   }
 
@@ -29,9 +32,9 @@ class CharWidths {
 };
 
 // NextToken that also hands back the token's width without measuring twice.
-int TakeToken(const std::string& text, int& index, int areaWidth, const TextWidth& width,
+int TakeToken(const wxString& text, int& index, int areaWidth, const TextWidth& width,
               CharWidths& charWidth, int& tokenWidth) {
-  const int n = static_cast<int>(text.size());
+  const int n = static_cast<int>(text.length());
   const int start = index;
   if (IsSpace(text[index])) {
     tokenWidth = charWidth(text[index]);
@@ -40,19 +43,19 @@ int TakeToken(const std::string& text, int& index, int areaWidth, const TextWidt
   int end = index;
   while (end < n && !IsSpace(text[end])) ++end;
   int length = end - start;
-  tokenWidth = length == 1 ? charWidth(text[start]) : width(text.substr(start, length));
+  tokenWidth = length == 1 ? charWidth(text[start]) : width(text.Mid(start, length));
   if (tokenWidth > areaWidth && length > 1) {
     // The longest piece that fits; one character goes even when it does not.
     int lo = 1, hi = length - 1;
     while (lo < hi) {
       const int mid = (lo + hi + 1) / 2;
-      if (width(text.substr(start, mid)) <= areaWidth)
+      if (width(text.Mid(start, mid)) <= areaWidth)
         lo = mid;
       else
         hi = mid - 1;
     }
     length = lo;
-    tokenWidth = width(text.substr(start, length));
+    tokenWidth = width(text.Mid(start, length));
   }
   index = start + length;
   return length;
@@ -61,17 +64,17 @@ int TakeToken(const std::string& text, int& index, int areaWidth, const TextWidt
 // Wraps from the line start `from`, appending the following line starts to
 // `out` until the text ends or `stop` accepts a new start.
 template <class Stop>
-void WrapLoop(const std::string& text, int from, int areaWidth, const TextWidth& width,
+void WrapLoop(const wxString& text, int from, int areaWidth, const TextWidth& width,
               std::vector<int>& out, Stop stop) {
   CharWidths charWidth(width);
-  const int n = static_cast<int>(text.size());
+  const int n = static_cast<int>(text.length());
   int lineStart = from, lineWidth = 0, index = from;
   while (index < n) {
     const int tokenStart = index;
     int tokenWidth = 0;
     TakeToken(text, index, areaWidth, width, charWidth, tokenWidth);
     int newStart = -1;
-    if (text[tokenStart] == '\n') {
+    if (text[tokenStart] == wxUniChar('\n')) {
       newStart = index;
     } else if (tokenStart > lineStart && lineWidth + tokenWidth > areaWidth) {
       newStart = tokenStart;
@@ -89,23 +92,23 @@ void WrapLoop(const std::string& text, int from, int areaWidth, const TextWidth&
 
 }  // namespace
 
-std::string NextToken(const std::string& text, int& index, int areaWidth, const TextWidth& width) {
-  if (index < 0 || index >= static_cast<int>(text.size())) return {};
+wxString NextToken(const wxString& text, int& index, int areaWidth, const TextWidth& width) {
+  if (index < 0 || index >= static_cast<int>(text.length())) return wxString();
   CharWidths charWidth(width);
   int tokenWidth = 0;
   const int start = index;
   const int length = TakeToken(text, index, areaWidth, width, charWidth, tokenWidth);
-  return text.substr(start, length);
+  return text.Mid(start, length);
 }
 
-std::vector<int> WrapFrom(const std::string& text, int areaWidth, const TextWidth& width) {
+std::vector<int> WrapFrom(const wxString& text, int areaWidth, const TextWidth& width) {
   std::vector<int> starts{0};
   WrapLoop(text, 0, areaWidth, width, starts, [](int) { return false; });
   return starts;
 }
 
-int Rewrap(const std::string& text, std::vector<int>& starts, int changeAt, int removed,
-           int inserted, int areaWidth, const TextWidth& width) {
+int Rewrap(const wxString& text, std::vector<int>& starts, int changeAt, int removed, int inserted,
+           int areaWidth, const TextWidth& width) {
   if (starts.empty()) {
     starts = WrapFrom(text, areaWidth, width);
     return 0;
@@ -134,14 +137,14 @@ int LineOf(const std::vector<int>& starts, int index) {
   return std::max(0, static_cast<int>(it - starts.begin()) - 1);
 }
 
-int LineEnd(const std::string& text, const std::vector<int>& starts, int line) {
-  const int n = static_cast<int>(text.size());
+int LineEnd(const wxString& text, const std::vector<int>& starts, int line) {
+  const int n = static_cast<int>(text.length());
   int end = line + 1 < static_cast<int>(starts.size()) ? starts[line + 1] : n;
-  if (end > starts[line] && text[end - 1] == '\n') --end;
+  if (end > starts[line] && text[end - 1] == wxUniChar('\n')) --end;
   return end;
 }
 
-int LastCaretIndex(const std::string& text, const std::vector<int>& starts, int line) {
+int LastCaretIndex(const wxString& text, const std::vector<int>& starts, int line) {
   const int end = LineEnd(text, starts, line);
   const bool softBreak = line + 1 < static_cast<int>(starts.size()) && end == starts[line + 1];
   return softBreak && end > starts[line] ? end - 1 : end;

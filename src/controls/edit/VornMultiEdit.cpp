@@ -16,6 +16,7 @@
 
 namespace {
 constexpr int kScrollBarWidth = 11;
+constexpr int kScrollBarGap = 2;              // between the text and the bar
 constexpr long kNoScrollBarStyle = 1L << 31;  // the sign bit of a 32-bit style
 }  // namespace
 
@@ -80,7 +81,7 @@ void VornMultiEdit::InitState() {
 // ---- Text ------------------------------------------------------------------
 
 void VornMultiEdit::SetText(const VornString& text, bool notify) {
-  m_text = text;
+  m_text = wxString::FromUTF8(text.c_str());
   m_caret = m_selStart = m_selEnd = m_anchor = 0;
   m_keptX = -1;
   UpdateLineBreaks();
@@ -91,7 +92,7 @@ void VornMultiEdit::SetText(const VornString& text, bool notify) {
 }
 
 void VornMultiEdit::GetText(VornString& out) {
-  out = m_text;
+  out = VornString(m_text.utf8_str().data());
 }
 
 void VornMultiEdit::SetEditable(bool editable) {
@@ -122,7 +123,7 @@ void VornMultiEdit::SetLineHeight() {
 
 void VornMultiEdit::ReportText() {
   m_pControlGroup->ControlSelected(GetId(), this);
-  StringValChanged hint(m_text);
+  StringValChanged hint(VornString(m_text.utf8_str().data()));
   hint.m_bFlag = true;
   // A receiver that redraws the box meanwhile shows no caret.
   const bool focus = m_bHasFocus;
@@ -133,24 +134,24 @@ void VornMultiEdit::ReportText() {
 
 // ---- Wrapping ----------------------------------------------------------------
 
-bool VornMultiEdit::FindToken(const VornString& text, VornString& token, int& index) {
+bool VornMultiEdit::FindToken(const wxString& text, wxString& token, int& index) {
   wxClientDC dc(this);
   dc.SetFont(GetFont());
-  token = multiedit::NextToken(text, index, m_textWidth, multiedit::DcWidth(dc));
+  token = multiedit::NextToken(text, index, GetWrapWidth(), multiedit::DcWidth(dc));
   return !token.empty();
 }
 
 void VornMultiEdit::UpdateLineBreaks() {
   wxClientDC dc(this);
   dc.SetFont(GetFont());
-  m_lineStarts = multiedit::WrapFrom(m_text, m_textWidth, multiedit::DcWidth(dc));
+  m_lineStarts = multiedit::WrapFrom(m_text, GetWrapWidth(), multiedit::DcWidth(dc));
   m_lineCount = static_cast<int>(m_lineStarts.size());
 }
 
 void VornMultiEdit::TextChanged(int at, int removed, int inserted) {
   wxClientDC dc(this);
   dc.SetFont(GetFont());
-  multiedit::Rewrap(m_text, m_lineStarts, at, removed, inserted, m_textWidth,
+  multiedit::Rewrap(m_text, m_lineStarts, at, removed, inserted, GetWrapWidth(),
                     multiedit::DcWidth(dc));
   m_lineCount = static_cast<int>(m_lineStarts.size());
   m_bModified = true;
@@ -161,34 +162,38 @@ void VornMultiEdit::TextChanged(int at, int removed, int inserted) {
 
 bool VornMultiEdit::DeleteSelection() {
   if (m_selStart == m_selEnd) return false;
-  const int start = std::clamp(std::min(m_selStart, m_selEnd), 0, int(m_text.size()));
-  const int end = std::clamp(std::max(m_selStart, m_selEnd), 0, int(m_text.size()));
-  m_text.erase(start, end - start);
+  const int start = std::clamp(std::min(m_selStart, m_selEnd), 0, int(m_text.length()));
+  const int end = std::clamp(std::max(m_selStart, m_selEnd), 0, int(m_text.length()));
+  m_text.Remove(start, end - start);
   m_caret = m_selStart = m_selEnd = m_anchor = start;
   TextChanged(start, end - start, 0);
   return true;
 }
 
 void VornMultiEdit::Insert(char c) {
-  Insert(VornString(1, c));
+  InsertText(wxString(wxUniChar(static_cast<unsigned char>(c))));
 }
 
 void VornMultiEdit::Insert(const VornString& text) {
-  const int at = std::clamp(m_caret, 0, int(m_text.size()));
-  m_text.insert(at, text);
-  m_caret = m_selStart = m_selEnd = m_anchor = at + int(text.size());
-  TextChanged(at, 0, int(text.size()));
+  InsertText(wxString::FromUTF8(text.c_str()));
 }
 
-void VornMultiEdit::ReplaceSelection(const VornString& text) {
+void VornMultiEdit::InsertText(const wxString& text) {
+  const int at = std::clamp(m_caret, 0, int(m_text.length()));
+  m_text.insert(at, text);
+  m_caret = m_selStart = m_selEnd = m_anchor = at + int(text.length());
+  TextChanged(at, 0, int(text.length()));
+}
+
+void VornMultiEdit::ReplaceSelection(const wxString& text) {
   DeleteSelection();
-  Insert(text);
+  InsertText(text);
 }
 
 void VornMultiEdit::Delete() {
   if (DeleteSelection()) return;
-  if (m_caret >= int(m_text.size())) return;
-  m_text.erase(m_caret, 1);
+  if (m_caret >= int(m_text.length())) return;
+  m_text.Remove(m_caret, 1);
   m_selStart = m_selEnd = m_anchor = m_caret;
   TextChanged(m_caret, 1, 0);
 }
@@ -197,7 +202,7 @@ void VornMultiEdit::Backspace() {
   if (DeleteSelection()) return;
   if (m_caret <= 0) return;
   --m_caret;
-  m_text.erase(m_caret, 1);
+  m_text.Remove(m_caret, 1);
   m_selStart = m_selEnd = m_anchor = m_caret;
   TextChanged(m_caret, 1, 0);
 }
@@ -208,7 +213,7 @@ void VornMultiEdit::GetSelection(int& start, int& end) const {
 }
 
 void VornMultiEdit::SetSelection(int start, int end) {
-  const int n = int(m_text.size());
+  const int n = int(m_text.length());
   m_selStart = std::clamp(start, 0, n);
   m_selEnd = std::clamp(end, 0, n);
   m_anchor = m_selStart;
@@ -219,7 +224,7 @@ void VornMultiEdit::SetSelection(int start, int end) {
 // ---- Caret, mapping and scrolling --------------------------------------------
 
 void VornMultiEdit::UpdateCaretPos(int index) {
-  m_caret = std::clamp(index, 0, int(m_text.size()));
+  m_caret = std::clamp(index, 0, int(m_text.length()));
   const int line = GetCurrentLineNo();
   const int top = GetTopLine();
   if (line >= top + m_visibleLines)
@@ -254,7 +259,7 @@ void VornMultiEdit::ScrollToLine(double line) {
 void VornMultiEdit::IndexToScreen(int index, int& line, int& x) {
   line = multiedit::LineOf(m_lineStarts, index);
   const int start = m_lineStarts[line];
-  x = index > start ? TextWidth(m_text.substr(start, index - start)) : 0;
+  x = index > start ? TextWidth(m_text.Mid(start, index - start)) : 0;
 }
 
 int VornMultiEdit::ScreenToIndex(int x, int y) {
@@ -267,7 +272,7 @@ int VornMultiEdit::IndexOnLine(int line, int x) {
   const int last = multiedit::LastCaretIndex(m_text, m_lineStarts, line);
   wxClientDC dc(this);
   dc.SetFont(GetFont());
-  const wxString shown = ToWx(m_text.substr(start, last - start));
+  const wxString shown = m_text.Mid(start, last - start);
   return start + VornEditShared::MapXToCharacter(shown, x, dc);
 }
 
@@ -320,8 +325,15 @@ void VornMultiEdit::SyncScrollBar() {
 
 void VornMultiEdit::PlaceScrollBar() {
   if (!m_pScrollBar) return;
-  m_pScrollBar->SetWindowPos(GetPosX() + m_textX + m_textWidth, GetPosY() + m_textY,
-                             kScrollBarWidth, std::max(m_textHeight, 1));
+  m_pScrollBar->SetWindowPos(GetPosX() + m_textX + m_textWidth - kScrollBarWidth,
+                             GetPosY() + m_textY, kScrollBarWidth, std::max(m_textHeight, 1));
+}
+
+int VornMultiEdit::GetWrapWidth() const {
+  // The bar's strip is kept free whether or not the bar shows, so that its
+  // coming and going never re-wraps the text.
+  return m_bScrollAllowed ? std::max(1, m_textWidth - kScrollBarWidth - kScrollBarGap)
+                          : m_textWidth;
 }
 
 // ---- Drawing ---------------------------------------------------------------
@@ -359,7 +371,7 @@ void VornMultiEdit::DrawSingleLine(wxDC& dc, int line, int y) {
   const int cuts[] = {start, selStart, selEnd, end};
   for (int part = 0; part < 3; ++part) {
     if (cuts[part + 1] <= cuts[part]) continue;
-    const wxString piece = ToWx(m_text.substr(cuts[part], cuts[part + 1] - cuts[part]));
+    const wxString piece = m_text.Mid(cuts[part], cuts[part + 1] - cuts[part]);
     const wxSize size = dc.GetTextExtent(piece);
     if (part == 1) {
       dc.SetPen(*wxTRANSPARENT_PEN);
@@ -384,8 +396,8 @@ bool VornMultiEdit::InTextArea(int x, int y) const {
   return x >= m_textX && x <= m_textX + m_textWidth && y >= m_textY && y <= m_textY + m_textHeight;
 }
 
-int VornMultiEdit::TextWidth(const VornString& piece) {
+int VornMultiEdit::TextWidth(const wxString& piece) {
   wxClientDC dc(this);
   dc.SetFont(GetFont());
-  return dc.GetTextExtent(ToWx(piece)).x;
+  return dc.GetTextExtent(piece).x;
 }

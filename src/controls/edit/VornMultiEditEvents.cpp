@@ -49,7 +49,7 @@ wxBEGIN_EVENT_TABLE(VornMultiEdit, VornControl) EVT_CHAR(VornMultiEdit::LocalCha
   if (event.ControlDown()) {
     switch (ControlLetter(event)) {
       case 'a':
-        SetSelection(0, int(m_text.size()));
+        SetSelection(0, int(m_text.length()));
         break;
       case 'c':
         CopySelection();
@@ -71,7 +71,7 @@ wxBEGIN_EVENT_TABLE(VornMultiEdit, VornControl) EVT_CHAR(VornMultiEdit::LocalCha
     DeleteSelection();
     Insert('\n');
   } else if (code > 0 && code <= 255 && std::isprint(code)) {
-    ReplaceSelection(VornString(1, char(code)));
+    ReplaceSelection(wxString(wxUniChar(code)));
   } else {
     event.Skip();
     return;
@@ -124,7 +124,7 @@ void VornMultiEdit::OnVornKeyUp(wxKeyEvent& event) {
 }
 
 void VornMultiEdit::MoveCaret(int index, bool extend) {
-  index = std::clamp(index, 0, int(m_text.size()));
+  index = std::clamp(index, 0, int(m_text.length()));
   if (extend) {
     // The fixed end: the caret's position when the selection was empty.
     if (m_selStart == m_selEnd) m_anchor = m_caret;
@@ -159,13 +159,13 @@ void VornMultiEdit::MoveToLineEdge(bool end, bool extend) {
 void VornMultiEdit::CopySelection() {
   int start, end;
   GetSelection(start, end);
-  if (start < end) VornEditShared::CopyToClipboard(ToWx(m_text.substr(start, end - start)));
+  if (start < end) VornEditShared::CopyToClipboard(m_text.Mid(start, end - start));
 }
 
 void VornMultiEdit::PasteClipboard() {
   wxString pasted;
   if (!VornEditShared::PasteFromClipboard(pasted)) return;
-  ReplaceSelection(FromWx(pasted));
+  ReplaceSelection(pasted);
   // A long paste may end many lines down: bring its end into view.
   for (int guard = m_lineCount; guard > 0; --guard) {
     const int line = GetCurrentLineNo();
@@ -176,10 +176,9 @@ void VornMultiEdit::PasteClipboard() {
 
 void VornMultiEdit::SelectWordAt(int index) {
   // index is a boundary: the word may lie on either side of it.
-  const wxString text = ToWx(m_text);
   int start, end;
-  if (!VornEditShared::WordAt(text, index, start, end) &&
-      !VornEditShared::WordAt(text, index - 1, start, end))
+  if (!VornEditShared::WordAt(m_text, index, start, end) &&
+      !VornEditShared::WordAt(m_text, index - 1, start, end))
     return;
   m_anchor = m_selStart = start;
   m_selEnd = end;
@@ -308,7 +307,7 @@ void VornMultiEdit::LocalOnSize(wxSizeEvent& event) {
   }
   SetLineHeight();
   UpdateLineBreaks();
-  m_caret = std::min(m_caret, int(m_text.size()));
+  m_caret = std::min(m_caret, int(m_text.length()));
   PlaceScrollBar();
   CheckForScroll();
   Refresh(false);

@@ -21,11 +21,13 @@ TEST_F(MultiEditScroll, BarAppearsAndDisappearsWithTheLineCount) {
   ASSERT_TRUE(BarShown(box));
   VornMultiEditScrollBar* bar = box->GetScrollBar();
   EXPECT_DOUBLE_EQ(bar->GetFractionVal(), 3.0 / 4.0);
-  // At the right edge of the text area, as tall as it.
+  // Inside the right edge of the text area, as tall as it; lines wrap short
+  // of it.
   int x, y, w, h;
   bar->GetWindowPos(x, y, w, h);
   EXPECT_EQ(std::vector<int>({x, y, w, h}),
-            std::vector<int>({10 + kAreaX + kAreaWidth, 10 + kAreaY, 11, info.height}));
+            std::vector<int>({10 + kAreaX + kAreaWidth - 11, 10 + kAreaY, 11, info.height}));
+  EXPECT_EQ(box->GetWrapWidth(), kAreaWidth - 13);
   // The caret went onto the hidden fourth line: one line down, thumb at the end.
   EXPECT_EQ(box->GetTopLine(), 1);
   EXPECT_DOUBLE_EQ(bar->GetSliderVal(), 1.0);

@@ -16,10 +16,10 @@ TEST_F(MultiEdit, TypedWordWiderThanTheAreaIsCutIntoFittingPieces) {
   for (std::size_t i = 0; i < starts.size(); ++i) {
     const int end = i + 1 < starts.size() ? starts[i + 1] : int(word.size());
     const std::string piece = word.substr(starts[i], end - starts[i]);
-    EXPECT_LE(Width(piece), kAreaWidth) << "line " << i;
+    EXPECT_LE(Width(piece), box->GetWrapWidth()) << "line " << i;
     // Each piece but the last is as long as fits.
     if (i + 1 < starts.size()) {
-      EXPECT_GT(Width(piece + "W"), kAreaWidth) << "line " << i;
+      EXPECT_GT(Width(piece + "W"), box->GetWrapWidth()) << "line " << i;
     }
     joined += piece;
   }
@@ -197,6 +197,18 @@ TEST_F(MultiEditFixture, BlinkTimerTogglesTheCaretOnlyWhileFocused) {
   EXPECT_TRUE(SamePixels(shown, Render(box, box->GetWidth(), box->GetHeight())));
   box->GetEventHandler()->ProcessEvent(lose);
   EXPECT_TRUE(SamePixels(hidden, Render(box, box->GetWidth(), box->GetHeight())));
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(MultiEditFixture, TextIsUtf8AtTheInterfaceAndIndexedByCharacter) {
+  box->SetText("gr\xC3\xBCn\nx", false);
+  EXPECT_EQ(box->GetLineStarts(), (std::vector<int>{0, 5}));
+  Key(WXK_END);
+  Type("e");
+  EXPECT_EQ(Text(), "gr\xC3\xBCne\nx");
 }
 
 }  // namespace

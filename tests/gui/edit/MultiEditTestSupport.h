@@ -48,7 +48,7 @@ class MultiEditFixture : public ::testing::Test {
     wxBitmap probe(8, 8);
     wxMemoryDC dc(probe);
     dc.SetFont(info.font);
-    return dc.GetTextExtent(wxString::From8BitData(text.data(), text.size())).x;
+    return dc.GetTextExtent(wxString::FromUTF8(text.c_str())).x;
   }
 
   void Char(int code, bool control = false) {

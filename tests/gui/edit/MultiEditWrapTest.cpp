@@ -10,8 +10,8 @@
 
 namespace {
 
-int Pitch10(const std::string& s) {
-  return 10 * static_cast<int>(s.size());
+int Pitch10(const wxString& s) {
+  return 10 * static_cast<int>(s.length());
 }
 
 struct WrapCase {
@@ -41,17 +41,17 @@ INSTANTIATE_TEST_SUITE_P(
                       WrapCase{"a\nbcdefg h", 50, {0, 2, 7}}));
 
 TEST(MultiEditWrapToken, TokensAreBlanksRunsAndFittingPieces) {
-  const std::string text = "ab  cdefghi\nj";
+  const wxString text = "ab  cdefghi\nj";
   std::vector<std::string> tokens;
-  for (int i = 0; i < static_cast<int>(text.size());)
-    tokens.push_back(multiedit::NextToken(text, i, 40, Pitch10));
+  for (int i = 0; i < static_cast<int>(text.length());)
+    tokens.push_back(multiedit::NextToken(text, i, 40, Pitch10).ToStdString());
   EXPECT_EQ(tokens, (std::vector<std::string>{"ab", " ", " ", "cdef", "ghi", "\n", "j"}));
-  int end = static_cast<int>(text.size());
+  int end = static_cast<int>(text.length());
   EXPECT_EQ(multiedit::NextToken(text, end, 40, Pitch10), "");
 }
 
 TEST(MultiEditWrapLines, LineOfEndAndLastCaretIndex) {
-  const std::string text = "ab cd ef\nxy";  // area 50: "ab cd", " ef\n", "xy"
+  const wxString text = "ab cd ef\nxy";  // area 50: "ab cd", " ef\n", "xy"
   const std::vector<int> starts = multiedit::WrapFrom(text, 50, Pitch10);
   ASSERT_EQ(starts, (std::vector<int>{0, 5, 9}));
   EXPECT_EQ(multiedit::LineOf(starts, 4), 0);
@@ -68,9 +68,9 @@ TEST(MultiEditWrapLines, LineOfEndAndLastCaretIndex) {
 TEST(MultiEditWrapIncremental, AgreesWithFullWrap) {
   std::mt19937 rng(1234);
   const std::string alphabet = "aaaabbbcciiiWWmm    \n";
-  auto uneven = [](const std::string& s) {
+  auto uneven = [](const wxString& s) {
     int w = 0;
-    for (char c : s) w += c == 'W' || c == 'm' ? 14 : c == 'i' ? 4 : 9;
+    for (wxUniChar c : s) w += c == 'W' || c == 'm' ? 14 : c == 'i' ? 4 : 9;
     return w;
   };
   auto randomText = [&](int n) {
@@ -80,14 +80,15 @@ TEST(MultiEditWrapIncremental, AgreesWithFullWrap) {
   };
   for (int round = 0; round < 40; ++round) {
     const int area = 30 + static_cast<int>(rng() % 90);
-    std::string text = randomText(static_cast<int>(rng() % 300));
+    wxString text = randomText(static_cast<int>(rng() % 300));
     std::vector<int> starts = multiedit::WrapFrom(text, area, uneven);
     for (int edit = 0; edit < 60; ++edit) {
-      const int at = text.empty() ? 0 : static_cast<int>(rng() % (text.size() + 1));
-      const int removed = std::min<int>(static_cast<int>(rng() % 4), text.size() - at);
-      const std::string inserted = randomText(static_cast<int>(rng() % 5));
+      const int at = text.empty() ? 0 : static_cast<int>(rng() % (text.length() + 1));
+      const int removed = std::min<int>(static_cast<int>(rng() % 4), text.length() - at);
+      const wxString inserted = randomText(static_cast<int>(rng() % 5));
       text.replace(at, removed, inserted);
-      multiedit::Rewrap(text, starts, at, removed, static_cast<int>(inserted.size()), area, uneven);
+      multiedit::Rewrap(text, starts, at, removed, static_cast<int>(inserted.length()), area,
+                        uneven);
       ASSERT_EQ(starts, multiedit::WrapFrom(text, area, uneven))
           << "round " << round << " edit " << edit << " area " << area;
     }
