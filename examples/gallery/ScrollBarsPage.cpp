@@ -12,8 +12,8 @@ namespace {
 constexpr int kTextX = 24;
 constexpr int kBarTop = 70;
 constexpr int kBarHeight = 220;
-constexpr int kColumn = 110;  // distance between the specimens
-constexpr int kFirstX = 60;
+constexpr int kColumn = 100;  // distance between the specimens
+constexpr int kFirstX = 56;
 constexpr int kListWidth = 150;
 
 enum Id : unsigned int { kEnd = 400, kRight, kPlain, kMonster, kImage, kList, kText };

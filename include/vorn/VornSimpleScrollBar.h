@@ -16,6 +16,7 @@
 #include "vorn/VornImageCache.h"
 
 class VornScrollThumb;  // the tab pieces and tab images
+struct VornScrollThumbSpan;
 class VornMonsterBox;
 
 // A vertical bar 11 pixels wide. Its value runs from 0 (the top of the content
@@ -84,6 +85,8 @@ class VornSimpleScrollBar : public VornControl {
   void OnMouseMove(int x, int y) override;
   void OnMouseButton() override;
   void OnMouseLeaving() override;
+  // The end buttons follow the bar.
+  void OnEnable(bool enabled) override;
 
   // --- hooks a subclass overrides
   // Called after every notified value change; override to scroll the owner.
@@ -125,6 +128,7 @@ class VornSimpleScrollBar : public VornControl {
  private:
   void CreateEndButtons();
   void DestroyEndButtons();
+  VornScrollThumbSpan ThumbSpan() const;
 
   wxDECLARE_EVENT_TABLE();
 };
@@ -152,7 +156,8 @@ class MonsterScrollBar : public VornSimpleScrollBar {
   bool m_bPlainUp = false;
 };
 
-// What a windowless list-box bar needs from the list that owns it.
+// What a windowless list-box bar needs from the list that owns it; the
+// pop-up list implements it and hands itself to SetBox.
 class VornListBoxScrollOwner {
  public:
   virtual ~VornListBoxScrollOwner() = default;
@@ -201,6 +206,7 @@ class VornListBoxScrollBar {
  private:
   bool Hit(const wxMouseEvent& event) const;
   void RepaintBox();
+  VornScrollThumbSpan ThumbSpan() const;
 
   bool m_bVisible = false;
   wxColour m_first;

@@ -6,6 +6,7 @@
 
 #include "VornScrollThumb.h"
 #include "vorn/VornSimpleScrollBar.h"
+#include "vorn/VornValueNotify.h"
 #include "vornhost/Utility.h"
 
 namespace {
@@ -32,7 +33,7 @@ VornListBoxScrollBar::~VornListBoxScrollBar() = default;
 
 void VornListBoxScrollBar::SetSliderVal(double value) {
   if (value == m_sliderVal || std::isnan(value)) return;
-  m_sliderVal = value < 0.0 ? 0.0 : (value > 1.0 ? 1.0 : value);
+  m_sliderVal = VornValueNotify::Clamp(value);
   if (m_pBox) m_pBox->SetScrollPos(m_sliderVal);
 }
 
@@ -49,7 +50,11 @@ int VornListBoxScrollBar::GetThumbHeight() const {
 }
 
 int VornListBoxScrollBar::GetThumbTop() const {
-  return VornScrollThumbAt(GetScrollStart(), GetScrollHeight(), GetThumbHeight(), m_sliderVal).top;
+  return ThumbSpan().top;
+}
+
+VornScrollThumbSpan VornListBoxScrollBar::ThumbSpan() const {
+  return VornScrollThumbAt(GetScrollStart(), GetScrollHeight(), GetThumbHeight(), m_sliderVal);
 }
 
 bool VornListBoxScrollBar::Hit(const wxMouseEvent& event) const {
@@ -60,9 +65,7 @@ bool VornListBoxScrollBar::Hit(const wxMouseEvent& event) const {
 bool VornListBoxScrollBar::OnLeftDown(wxMouseEvent& event) {
   if (!Hit(event)) return false;
   const int y = event.GetY() - m_y;
-  const VornScrollThumbSpan thumb =
-      VornScrollThumbAt(GetScrollStart(), GetScrollHeight(), GetThumbHeight(), m_sliderVal);
-  if (thumb.Contains(y)) {
+  if (ThumbSpan().Contains(y)) {
     m_bDragging = true;
     m_dragStartY = y;
     m_dragStartVal = m_sliderVal;
@@ -79,20 +82,15 @@ bool VornListBoxScrollBar::OnLeftUp(wxMouseEvent& event) {
 bool VornListBoxScrollBar::OnMouseMove(wxMouseEvent& event) {
   if (!Hit(event)) return false;
   const int x = event.GetX() - m_x, y = event.GetY() - m_y;
-  const VornScrollThumbSpan thumb =
-      VornScrollThumbAt(GetScrollStart(), GetScrollHeight(), GetThumbHeight(), m_sliderVal);
-  bool over = thumb.Contains(y) && x >= 0 && x <= m_width;
-  double value = m_sliderVal;
-  if (m_bDragging) {
-    over = true;
-    value = VornScrollDragValue(GetScrollHeight(), thumb.height, y, m_dragStartY, m_dragStartVal);
-  }
-  if (value != m_sliderVal) {
-    m_bMouseOverTab = over;
-    SetSliderVal(value);
+  const VornScrollPointer pointer =
+      VornScrollPointerAt(ThumbSpan(), GetScrollHeight(), m_width, x, y, m_bDragging, m_dragStartY,
+                          m_dragStartVal, m_sliderVal);
+  if (pointer.value != m_sliderVal) {
+    m_bMouseOverTab = pointer.over;
+    SetSliderVal(pointer.value);
     RepaintBox();
-  } else if (over != m_bMouseOverTab) {
-    m_bMouseOverTab = over;
+  } else if (pointer.over != m_bMouseOverTab) {
+    m_bMouseOverTab = pointer.over;
     RepaintBox();
   }
   return true;

@@ -7,6 +7,7 @@
 #include "VornScrollImages.h"
 #include "vorn/GraphicsFunctions.h"
 #include "vorn/VornSimpleScrollBar.h"
+#include "vorn/VornValueNotify.h"
 #include "vornhost/Filter.h"
 
 VornScrollBar::VornScrollBar() = default;
@@ -67,7 +68,7 @@ void VornScrollBar::NotifyDrag() {
 // ---- value
 
 void VornScrollBar::SetValue(double v) {
-  v = v < 0.0 ? 0.0 : (v > 1.0 ? 1.0 : v);
+  v = VornValueNotify::Clamp(v);
   m_thumbTop = m_lowestTop + static_cast<int>((m_highestTop - m_lowestTop) * v);
   NotifyDrag();
   if (GetHandle()) Refresh(false);

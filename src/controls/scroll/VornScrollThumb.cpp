@@ -87,6 +87,19 @@ double VornScrollDragValue(int scrollHeight, int thumbHeight, int pointerY, int 
   return static_cast<double>(pointerY - startY) / travel + startValue;
 }
 
+VornScrollPointer VornScrollPointerAt(const VornScrollThumbSpan& thumb, int scrollHeight,
+                                      int barWidth, int x, int y, bool dragging, int startY,
+                                      double startValue, double current) {
+  VornScrollPointer pointer;
+  pointer.over = thumb.Contains(y) && x >= 0 && x <= barWidth;
+  pointer.value = current;
+  if (dragging) {
+    pointer.over = true;
+    pointer.value = VornScrollDragValue(scrollHeight, thumb.height, y, startY, startValue);
+  }
+  return pointer;
+}
+
 void DrawVornScrollBar(wxDC& dc, const VornScrollBarLook& look) {
   const wxRect& r = look.rect;
   dc.SetPen(*wxTRANSPARENT_PEN);

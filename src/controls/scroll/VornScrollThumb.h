@@ -45,6 +45,16 @@ int VornScrollThumbHeight(int scrollHeight, double fraction);
 // Where the thumb of the given height stands for value.
 VornScrollThumbSpan VornScrollThumbAt(int scrollStart, int scrollHeight, int thumbHeight,
                                       double value);
+// What a pointer at (x, y) of a bar means: whether it is over the thumb
+// (always while dragging) and the value it asks for (the current one unless
+// dragging).
+struct VornScrollPointer {
+  bool over = false;
+  double value = 0.0;
+};
+VornScrollPointer VornScrollPointerAt(const VornScrollThumbSpan& thumb, int scrollHeight,
+                                      int barWidth, int x, int y, bool dragging, int startY,
+                                      double startValue, double current);
 // The value a drag gives: the pointer's travel over the thumb's travel added
 // to the value at the press; 0 when the thumb cannot travel.
 double VornScrollDragValue(int scrollHeight, int thumbHeight, int pointerY, int startY,

@@ -11,6 +11,7 @@
 #include "VornScrollThumb.h"
 #include "vorn/GraphicsFunctions.h"
 #include "vorn/VornAssert.h"
+#include "vorn/VornValueNotify.h"
 #include "vornhost/Filter.h"
 #include "vornhost/Utility.h"
 
@@ -82,7 +83,7 @@ void VornSimpleScrollBar::DestroyEndButtons() {
 
 void VornSimpleScrollBar::SetSliderVal(double value, bool notify) {
   if (value == m_sliderVal || std::isnan(value)) return;
-  m_sliderVal = value < 0.0 ? 0.0 : (value > 1.0 ? 1.0 : value);
+  m_sliderVal = VornValueNotify::Clamp(value);
   if (m_bDragging)
     RedrawNow();
   else if (GetHandle())
@@ -119,7 +120,11 @@ int VornSimpleScrollBar::GetThumbHeight() const {
 }
 
 int VornSimpleScrollBar::GetThumbTop() const {
-  return VornScrollThumbAt(GetScrollStart(), GetScrollHeight(), GetThumbHeight(), m_sliderVal).top;
+  return ThumbSpan().top;
+}
+
+VornScrollThumbSpan VornSimpleScrollBar::ThumbSpan() const {
+  return VornScrollThumbAt(GetScrollStart(), GetScrollHeight(), GetThumbHeight(), m_sliderVal);
 }
 
 // ---- drawing
@@ -235,8 +240,7 @@ void VornSimpleScrollBar::OnUpdate(unsigned int, VornControl* source, VornContro
 void VornSimpleScrollBar::OnMouseButton() {
   int x, y;
   GetLastMousePos(x, y);
-  const VornScrollThumbSpan thumb =
-      VornScrollThumbAt(GetScrollStart(), GetScrollHeight(), GetThumbHeight(), m_sliderVal);
+  const VornScrollThumbSpan thumb = ThumbSpan();
   if (GetMouseDown()) {
     // A press beside the thumb neither pages nor moves it.
     if (!thumb.Contains(y)) return;
@@ -252,19 +256,14 @@ void VornSimpleScrollBar::OnMouseButton() {
 }
 
 void VornSimpleScrollBar::OnMouseMove(int x, int y) {
-  const VornScrollThumbSpan thumb =
-      VornScrollThumbAt(GetScrollStart(), GetScrollHeight(), GetThumbHeight(), m_sliderVal);
-  bool over = thumb.Contains(y) && x >= 0 && x <= GetWidth();
-  double value = m_sliderVal;
-  if (m_bDragging) {
-    over = true;
-    value = VornScrollDragValue(GetScrollHeight(), thumb.height, y, m_dragStartY, m_dragStartVal);
-  }
-  if (value != m_sliderVal) {
-    m_bMouseOverTab = over;
-    SetSliderVal(value, true);
-  } else if (over != m_bMouseOverTab) {
-    m_bMouseOverTab = over;
+  const VornScrollPointer pointer =
+      VornScrollPointerAt(ThumbSpan(), GetScrollHeight(), GetWidth(), x, y, m_bDragging,
+                          m_dragStartY, m_dragStartVal, m_sliderVal);
+  if (pointer.value != m_sliderVal) {
+    m_bMouseOverTab = pointer.over;
+    SetSliderVal(pointer.value, true);
+  } else if (pointer.over != m_bMouseOverTab) {
+    m_bMouseOverTab = pointer.over;
     RedrawNow();
   }
 }
@@ -273,6 +272,11 @@ void VornSimpleScrollBar::OnMouseLeaving() {
   if (!m_bMouseOverTab || m_bDragging) return;
   m_bMouseOverTab = false;
   Refresh(false);
+}
+
+void VornSimpleScrollBar::OnEnable(bool enabled) {
+  for (VornMomentBtn* button : {m_pUpButton.get(), m_pDownButton.get()})
+    if (button) button->SetEnabled(enabled);
 }
 
 void VornSimpleScrollBar::OnMouseWheel(wxMouseEvent& event) {

@@ -225,6 +225,10 @@ TEST_F(SimpleScrollBarTest, EndButtonsStepFirstByTheInitialThenByTheRepeatStep) 
   bar->OnUpdate(5, bar, &first);
   bar->OnUpdate(5, nullptr, &first);
   EXPECT_DOUBLE_EQ(0.01, bar->GetSliderVal());
+
+  bar->SetEnabled(false);
+  Do(down, "enter down up");
+  EXPECT_DOUBLE_EQ(0.01, bar->GetSliderVal()) << "the buttons follow the bar";
 }
 
 TEST_F(SimpleScrollBarTest, WheelMovesByTheRepeatStepPerNotch) {
