@@ -56,6 +56,7 @@ class VornEdit : public VornControl {
   ~VornEdit() override;
 
   void OnDraw(wxDC* dc) override;
+  void OnEnable(bool enabled) override;
 
   virtual bool Create(const wxBitmap* picture, VornEditInfo& info, int x, int y, wxWindow* parent,
                       int id, bool editable, int style, VornControlGroup* group, long wxStyle = 0);

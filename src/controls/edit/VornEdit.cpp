@@ -85,6 +85,7 @@ void VornEdit::FinishCreate(int w, int h, long wxStyle) {
   m_caret = m_selStart = m_selEnd = m_scroll = 0;
   m_bModified = true;
   m_bRightAligned = (wxStyle & kRightAligned) != 0;
+  SetCanFocus(AcceptsFocus());
 }
 
 // ---- The text -------------------------------------------------------------------
@@ -114,6 +115,7 @@ void VornEdit::GetText(VornString& out) {
 
 void VornEdit::SetEditable(bool editable) {
   m_bEditable = editable;
+  SetCanFocus(AcceptsFocus());
   Refresh(false);
 }
 
@@ -130,6 +132,12 @@ void VornEdit::SetBackgroundCol(const wxColour& colour) {
 
 void VornEdit::SetCaretColour(const wxColour& colour) {
   m_caretColour = colour;
+  Refresh(false);
+}
+
+void VornEdit::OnEnable(bool enabled) {
+  VornControl::OnEnable(enabled);
+  SetCanFocus(AcceptsFocus());
   Refresh(false);
 }
 

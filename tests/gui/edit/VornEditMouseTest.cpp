@@ -60,10 +60,12 @@ TEST_F(VornEditMouseTest, DraggingPastTheEdgeKeepsScrolling) {
   edit->SetText(std::string(40, 'x'));
   Focus(edit.get(), true);
   Mouse(edit.get(), wxEVT_LEFT_DOWN, 4, 8);
+  CaptureDprintf trace;
   Mouse(edit.get(), wxEVT_MOTION, 200, 8);
   ASSERT_TRUE(edit->GetDragTimer().IsRunning());
   int caret = edit->GetCaret();
   EXPECT_GT(caret, 0);
+  EXPECT_TRUE(trace.Contains("mouse mapped to character " + std::to_string(caret) + "\n"));
   for (int tick = 0; tick < 50; ++tick) edit->GetDragTimer().Notify();
   EXPECT_GT(edit->GetCaret(), caret);
   EXPECT_LT(edit->GetScroll(), 0);
