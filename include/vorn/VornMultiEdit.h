@@ -68,6 +68,13 @@ class VornMultiEdit : public VornControl {
   virtual void SetEditable(bool editable);
   virtual bool IsEditable() const;
 
+  // Only editable, enabled boxes take the focus.
+  bool AcceptsFocus() const override;
+  void OnEnable(bool enabled) override;
+  // The scroll bar, a sibling window, shows and hides with the box.
+  bool Show(bool show) override;
+  using VornWindow::Show;
+
   // ---- Operations a host calls ------------------------------------------
   // Sets the font, then recomputes the line height and the wrapping.
   bool SetFont(const wxFont& font) override;

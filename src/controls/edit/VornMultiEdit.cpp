@@ -52,6 +52,7 @@ bool VornMultiEdit::Create(const wxBitmap* picture, VornEditInfo& info, int x, i
   m_bForwardKeyDown = false;  // skipped presses must become characters
   m_backBuffer = wxBitmap(std::max(w, 1), std::max(h, 1));
   m_bEditable = editable;
+  SetCanFocus(AcceptsFocus());
   m_textX = info.x;
   m_textY = info.y;
   m_textWidth = info.width;
@@ -97,7 +98,24 @@ void VornMultiEdit::GetText(VornString& out) {
 
 void VornMultiEdit::SetEditable(bool editable) {
   m_bEditable = editable;
+  SetCanFocus(AcceptsFocus());
   Refresh(false);
+}
+
+bool VornMultiEdit::AcceptsFocus() const {
+  return m_bEditable && m_bEnabled;
+}
+
+void VornMultiEdit::OnEnable(bool enabled) {
+  VornControl::OnEnable(enabled);
+  SetCanFocus(AcceptsFocus());
+  Refresh(false);
+}
+
+bool VornMultiEdit::Show(bool show) {
+  const bool changed = VornControl::Show(show);
+  if (m_pScrollBar) m_pScrollBar->Show(show && m_lineCount > m_visibleLines);
+  return changed;
 }
 
 bool VornMultiEdit::IsEditable() const {
@@ -146,6 +164,7 @@ void VornMultiEdit::UpdateLineBreaks() {
   dc.SetFont(GetFont());
   m_lineStarts = multiedit::WrapFrom(m_text, GetWrapWidth(), multiedit::DcWidth(dc));
   m_lineCount = static_cast<int>(m_lineStarts.size());
+  m_firstVisibleLine = std::min(m_firstVisibleLine, float(GetMaxFirstLine()));
 }
 
 void VornMultiEdit::TextChanged(int at, int removed, int inserted) {
@@ -156,6 +175,8 @@ void VornMultiEdit::TextChanged(int at, int removed, int inserted) {
   m_lineCount = static_cast<int>(m_lineStarts.size());
   m_bModified = true;
   m_keptX = -1;
+  // Fewer lines may leave the view below the text's end.
+  m_firstVisibleLine = std::min(m_firstVisibleLine, float(GetMaxFirstLine()));
 }
 
 // ---- Editing primitives --------------------------------------------------
@@ -303,7 +324,7 @@ void VornMultiEdit::CheckForScroll() {
     if (m_pScrollBar) m_pScrollBar->Show(false);
     return;
   }
-  m_pScrollBar->Show(true);
+  m_pScrollBar->Show(IsShown());
   SyncScrollBar();
   Refresh(false);
 }

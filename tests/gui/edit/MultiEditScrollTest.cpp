@@ -135,3 +135,22 @@ TEST_F(MultiEditScroll, SignBitOfTheStyleForbidsTheBar) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST_F(MultiEditFixture, BarFollowsTheBoxVisibilityAndTheViewStaysOnTheText) {
+  box->SetText(kTenLines, false);
+  box->SetScrollPos(100 * lineHeight);
+  ASSERT_EQ(box->GetTopLine(), 7);
+  // Cutting the last lines leaves no empty rows at the bottom.
+  box->SetSelection(int(std::string(kTenLines).size()) - 9, int(std::string(kTenLines).size()));
+  Char(WXK_BACK);
+  EXPECT_EQ(box->GetLineCount(), 7);
+  EXPECT_EQ(box->GetTopLine(), 4);
+  box->Show(false);
+  EXPECT_FALSE(BarShown(box));
+  box->Show(true);
+  EXPECT_TRUE(BarShown(box));
+}
+
+}  // namespace
