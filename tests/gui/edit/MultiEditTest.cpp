@@ -128,17 +128,7 @@ TEST_F(MultiEdit, FocusLossReportsAnEditedTextOnce) {
   EXPECT_EQ(Joined(log), "sel 7 text hi\nyou sel 7 text set");
 }
 
-TEST_F(MultiEdit, NotEditableIgnoresKeysAndClicks) {
-  box->SetText("fixed", false);
-  box->SetEditable(false);
-  Type("x");
-  Key(WXK_DELETE);
-  ClickText(Width("fi"), 2);
-  EXPECT_EQ(Text(), "fixed");
-  EXPECT_EQ(box->GetCaret(), 0);
-}
-
-TEST_F(MultiEdit, DrawsSelectionAndCaret) {
+TEST_F(MultiEdit, DrawsTheSelectionOnItsLine) {
   box->SetText("abc\ndef", false);
   ClickText(0, lineHeight + 2);
   Key(WXK_RIGHT, true);
@@ -151,25 +141,7 @@ TEST_F(MultiEdit, DrawsSelectionAndCaret) {
       if (ImagePixel(img, x, y) == info.colour2) ++(y < kAreaY + lineHeight ? first : second);
   EXPECT_EQ(first, 0);
   EXPECT_GT(second, 0);
-  // Focused, a caret line of the line's height appears right of the
-  // selection.
-  wxFocusEvent gain(wxEVT_SET_FOCUS);
-  box->GetEventHandler()->ProcessEvent(gain);
-  const wxImage focused = Render(box, w, h).ConvertToImage();
-  auto textColoured = [&](const wxImage& image) {
-    int n = 0;
-    const int cx = kAreaX + Width("d");
-    for (int y = kAreaY + lineHeight; y < kAreaY + 2 * lineHeight; ++y)
-      n += ImagePixel(image, cx - 1, y) == info.colour1 || ImagePixel(image, cx, y) == info.colour1;
-    return n;
-  };
-  EXPECT_GE(textColoured(focused), lineHeight - 1);
-  EXPECT_LT(textColoured(img), lineHeight / 2);
 }
-
-}  // namespace
-
-namespace {
 
 TEST_F(MultiEditFixture, CutAndPasteAcrossLines) {
   box->SetText("one two\nthree", false);
@@ -183,25 +155,6 @@ TEST_F(MultiEditFixture, CutAndPasteAcrossLines) {
   EXPECT_EQ(Text(), "one \nthreetwo");
   EXPECT_EQ(box->GetCaret(), 13);
 }
-
-TEST_F(MultiEditFixture, BlinkTimerTogglesTheCaretOnlyWhileFocused) {
-  wxFocusEvent gain(wxEVT_SET_FOCUS), lose(wxEVT_KILL_FOCUS);
-  box->GetEventHandler()->ProcessEvent(gain);
-  const wxBitmap shown = Render(box, box->GetWidth(), box->GetHeight());
-  wxTimer timer;
-  wxTimerEvent tick(timer);
-  box->LocalTimer(tick);
-  const wxBitmap hidden = Render(box, box->GetWidth(), box->GetHeight());
-  EXPECT_FALSE(SamePixels(shown, hidden));
-  box->LocalTimer(tick);
-  EXPECT_TRUE(SamePixels(shown, Render(box, box->GetWidth(), box->GetHeight())));
-  box->GetEventHandler()->ProcessEvent(lose);
-  EXPECT_TRUE(SamePixels(hidden, Render(box, box->GetWidth(), box->GetHeight())));
-}
-
-}  // namespace
-
-namespace {
 
 TEST_F(MultiEditFixture, TextIsUtf8AtTheInterfaceAndIndexedByCharacter) {
   box->SetText("gr\xC3\xBCn\nx", false);

@@ -40,16 +40,6 @@ INSTANTIATE_TEST_SUITE_P(
                       WrapCase{"abc", 5, {0, 1, 2}},             // area narrower than a char
                       WrapCase{"a\nbcdefg h", 50, {0, 2, 7}}));
 
-TEST(MultiEditWrapToken, TokensAreBlanksRunsAndFittingPieces) {
-  const wxString text = "ab  cdefghi\nj";
-  std::vector<std::string> tokens;
-  for (int i = 0; i < static_cast<int>(text.length());)
-    tokens.push_back(multiedit::NextToken(text, i, 40, Pitch10).ToStdString());
-  EXPECT_EQ(tokens, (std::vector<std::string>{"ab", " ", " ", "cdef", "ghi", "\n", "j"}));
-  int end = static_cast<int>(text.length());
-  EXPECT_EQ(multiedit::NextToken(text, end, 40, Pitch10), "");
-}
-
 TEST(MultiEditWrapLines, LineOfEndAndLastCaretIndex) {
   const wxString text = "ab cd ef\nxy";  // area 50: "ab cd", " ef\n", "xy"
   const std::vector<int> starts = multiedit::WrapFrom(text, 50, Pitch10);
