@@ -69,8 +69,7 @@ class TextGroup : public VornControlGroupValue, public MessageReceiver {
 
 class TextPage : public GalleryPage, public MessageReceiver {
  public:
-  TextPage(wxWindow* parent, GalleryContext& ctx)
-      : GalleryPage(parent, ctx), m_group(ctx.Log()), m_clockTimer(this) {
+  TextPage(wxWindow* parent, GalleryContext& ctx) : GalleryPage(parent, ctx), m_group(ctx.Log()) {
     m_group.Register(static_cast<MessageReceiver*>(this));
     const char* field = "edit_widget.sts";
     const char* value = "edit_value.sts";
@@ -218,7 +217,7 @@ class TextPage : public GalleryPage, public MessageReceiver {
 
   TextGroup m_group;
   VornControlGroup m_clock;  // the date and time boxes, fed each second
-  wxTimer m_clockTimer;
+  wxTimer m_clockTimer;      // its own owner: ticks reach the handler bound on it
   std::vector<Heading> m_headings;
   wxRect m_scaleCaption;
   wxString m_scaleValue;

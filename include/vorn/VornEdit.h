@@ -65,6 +65,7 @@ class VornEdit : public VornControl {
                       long wxStyle = 0);
 
   // ---- The text -----------------------------------------------------------------
+  // Texts come and go as UTF-8; caret and selection count characters.
   // Ignored while the field has the focus, so typing is never overwritten.
   // With notify the text is reported as if the user had entered it.
   virtual void SetText(const VornString& text, bool notify = false);
@@ -146,7 +147,7 @@ class VornEdit : public VornControl {
   void DrawBackground(wxDC& dc) const;
   void DrawString(wxDC& dc, const wxString& shown) const;
   void DrawCaret(wxDC& dc, const wxString& shown) const;
-  // A DC in the field's font, for measuring outside OnDraw.
+  // The caret's x relative to the text area, measured in dc's font.
   int CaretX(wxDC& dc, const wxString& shown) const;
 
   int m_style = ES_TEXT;

@@ -94,10 +94,10 @@ void VornEdit::SetText(const VornString& text, bool notify) {
   if (m_bHasFocus) return;
   m_text = wxString::FromUTF8(text.c_str());
   CheckFormating();
-  LimitLength();
   m_bModified = true;
   m_caret = m_selStart = m_selEnd = 0;
   m_scroll = 0;
+  LimitLength();
   if (notify && m_pControlGroup) {
     if (auto* values = dynamic_cast<VornControlGroupValue*>(m_pControlGroup))
       values->ControlDrag(static_cast<unsigned int>(GetId()), this);

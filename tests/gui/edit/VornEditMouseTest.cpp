@@ -56,7 +56,12 @@ TEST_F(VornEditMouseTest, DoubleClickSelectsTheWordUnderThePointer) {
 }
 
 TEST_F(VornEditMouseTest, DraggingPastTheEdgeKeepsScrolling) {
-  std::unique_ptr<VornEdit> edit(Make(VornEdit::ES_TEXT));
+  // The right edge falls just left of a character's midpoint, so mapping the
+  // edge alone would never pass it.
+  const int cw = Width("x");
+  VornEditInfo info = Info(12 * cw + cw / 2 - 1);
+  auto edit = std::make_unique<VornEdit>(nullptr, info, 0, 0, frame.Get(), kId, true,
+                                         VornEdit::ES_TEXT, &group);
   edit->SetText(std::string(40, 'x'));
   Focus(edit.get(), true);
   Mouse(edit.get(), wxEVT_LEFT_DOWN, 4, 8);
