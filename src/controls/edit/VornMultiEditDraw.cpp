@@ -18,8 +18,9 @@ void VornMultiEdit::OnDraw(wxDC* dc) {
   mdc.SetFont(GetFont());
   mdc.SetClippingRegion(GetTextArea());
   const int top = GetTopLine();
-  for (int line = top, y = m_textY; line < m_lineCount && y < m_textY + m_textHeight;
-       ++line, y += m_lineHeight)
+  // Whole lines only: a line the keys treat as hidden is not half shown.
+  const int end = std::min(m_lineCount, top + m_visibleLines);
+  for (int line = top, y = m_textY; line < end; ++line, y += m_lineHeight)
     DrawSingleLine(mdc, line, y);
   DrawBlinkingCaret(mdc);
   mdc.DestroyClippingRegion();
