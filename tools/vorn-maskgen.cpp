@@ -590,6 +590,7 @@ void Generate(Writer& out) {
   ScrollThumbMasks(out);
   InstrumentMasks(out);
   ValueControlMasks(out);
+
   EditWidgetMasks(out);
 }
 

@@ -20,7 +20,17 @@ constexpr int kRowHeight = 44;
 constexpr int kRows = 7;
 constexpr int kMultiLineRoom = 150;  // kept free at the bottom
 
-enum Id : unsigned int { kText = 400, kPassword, kInt, kReal, kReadOnly, kDate, kTime, kScale };
+enum Id : unsigned int {
+  kText = 400,
+  kPassword,
+  kInt,
+  kReal,
+  kReadOnly,
+  kDate,
+  kTime,
+  kScale,
+  kMultiLine
+};
 
 // Logs selections, double clicks and text reports. The edits report with id
 // 0, so reports are named after their source.
@@ -83,6 +93,7 @@ class TextPage : public GalleryPage, public MessageReceiver {
     auto* scale =
         Add<ScaleEditBox>(6, kScale, field, "Scale box, 0 to 100", VornEdit::ES_INT, true);
     m_scaleCaption = wxRect(NextX(scale), scale->GetPosY() + 3, 400, 18);
+    AddMultiLine(kRows);
     // A 0..1 value from elsewhere, shown as a percentage.
     VornControlGroup feed;
     feed.Register(kScale, scale);
@@ -164,6 +175,20 @@ class TextPage : public GalleryPage, public MessageReceiver {
     m_headings.push_back({Row(row) + 2, m_ctx.Msg(titleKey), widget});
     m_group.SetName(id, m_ctx.Msg(titleKey));
     return edit;
+  }
+
+  // The multi-line box, long enough to scroll, on the row below the fields.
+  void AddMultiLine(int row) {
+    VornEditInfo info;
+    const wxBitmap* picture = LoadWidget("edit_multiline.sts", info);
+    auto* box = new VornMultiEdit(picture, info, kFieldX, Row(row), this, kMultiLine, true,
+                                  &m_group);
+    box->SetScrollColours(m_ctx.Colour("scrollbar_outline"), m_ctx.Colour("scrollbar_track"),
+                          m_ctx.Colour("scrollbar_hover"));
+    box->SetText(Utf8(m_ctx.Msg("Multi-line sample") + "\n" + m_ctx.Msg("Multi-line sample 2")),
+                 false);
+    m_headings.push_back({Row(row) + 2, m_ctx.Msg("Multi-line text"), "edit_multiline.sts"});
+    m_group.SetName(kMultiLine, m_ctx.Msg("Multi-line text"));
   }
 
   void Tick() {

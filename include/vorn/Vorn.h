@@ -27,3 +27,4 @@
 #include "vorn/VornGLWindow.h"
 #include "vorn/VornSlider.h"
 #include "vorn/VornEdit.h"
+#include "vorn/VornMultiEdit.h"
