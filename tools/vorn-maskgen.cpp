@@ -203,6 +203,17 @@ void ScrollThumbMasks(Writer& out) {
   out("scrollthumb_end.png", Fill(w, h, Segment(3, 35.5f, 7, 35.5f, 0.9f)));
 }
 
+// List button: the push button's face with three list lines and a small
+// chevron under them.
+void ListButtonMasks(Writer& out) {
+  auto glyph = [](float dy) {
+    return Union(Union(Segment(10, 10 + dy, 22, 10 + dy, 0.8f), Segment(10, 14 + dy, 22, 14 + dy, 0.8f)),
+                 Union(Segment(10, 18 + dy, 22, 18 + dy, 0.8f), Chevron(16, 23 + dy, 3, 2.5f, 1, 0.8f)));
+  };
+  out("listbutton_glyph.png", Fill(32, 32, glyph(0)));
+  out("listbutton_glyph_down.png", Fill(32, 32, glyph(1)));
+}
+
 void Generate(Writer& out) {
   // Push button: a 32 x 32 tool face with a plus glyph.
   RaisedFace(out, "push", 32, 32, 6);
@@ -311,6 +322,7 @@ void Generate(Writer& out) {
   out("treefunc_glyph.png", Fill(18, 18, dots));
   out("treefunc_glyph_down.png", Fill(18, 18, [&](float x, float y) { return dots(x, y - 1); }));
   ScrollThumbMasks(out);
+  ListButtonMasks(out);
 }
 
 }  // namespace

@@ -199,8 +199,8 @@ class VornListBox : public VornListBoxCallback, public VornControl {
 
  protected:
   VornControl* GetListControl() override { return this; }
-  bool Setup(VornListBoxInfo& info, int x, int y, wxWindow* parent, int id,
-             VornControlGroup* group, long style);
+  bool Setup(VornListBoxInfo& info, int x, int y, wxWindow* parent, int id, VornControlGroup* group,
+             long style);
 
   const VornwxBitmapCache* m_pImages = nullptr;  // the manager's
   wxRect m_textRect;

@@ -27,25 +27,23 @@ constexpr int kWheelRows = 3;
 int s_live = 0;
 }  // namespace
 
-wxBEGIN_EVENT_TABLE(ExpandedVornListBox, wxFrame)
-  EVT_LEFT_DOWN(ExpandedVornListBox::OnLeftDown)
-  EVT_LEFT_DCLICK(ExpandedVornListBox::OnLeftDown)
-  EVT_LEFT_UP(ExpandedVornListBox::OnLeftUp)
-  EVT_MOTION(ExpandedVornListBox::OnMouseMove)
-  EVT_KILL_FOCUS(ExpandedVornListBox::OnKillFocus)
-  EVT_LEAVE_WINDOW(ExpandedVornListBox::OnLeaveWindow)
-  EVT_CHAR(ExpandedVornListBox::OnChar)
-  EVT_PAINT(ExpandedVornListBox::OnPaint)
-  EVT_ERASE_BACKGROUND(ExpandedVornListBox::OnEraseBackground)
-  EVT_TIMER(kPrefixTimerId, ExpandedVornListBox::OnPrefixTimer)
-  EVT_SCROLL(ExpandedVornListBox::OnScrollBar)
-  EVT_MOUSEWHEEL(ExpandedVornListBox::OnMouseWheel)
-  EVT_MOUSE_CAPTURE_LOST(ExpandedVornListBox::OnCaptureLost)
-wxEND_EVENT_TABLE()
+wxBEGIN_EVENT_TABLE(ExpandedVornListBox, wxFrame) EVT_LEFT_DOWN(ExpandedVornListBox::OnLeftDown)
+    EVT_LEFT_DCLICK(ExpandedVornListBox::OnLeftDown) EVT_LEFT_UP(ExpandedVornListBox::OnLeftUp)
+        EVT_MOTION(ExpandedVornListBox::OnMouseMove)
+            EVT_KILL_FOCUS(ExpandedVornListBox::OnKillFocus)
+                EVT_LEAVE_WINDOW(ExpandedVornListBox::OnLeaveWindow)
+                    EVT_CHAR(ExpandedVornListBox::OnChar) EVT_PAINT(ExpandedVornListBox::OnPaint)
+                        EVT_ERASE_BACKGROUND(ExpandedVornListBox::OnEraseBackground)
+                            EVT_TIMER(kPrefixTimerId, ExpandedVornListBox::OnPrefixTimer)
+                                EVT_SCROLL(ExpandedVornListBox::OnScrollBar)
+                                    EVT_MOUSEWHEEL(ExpandedVornListBox::OnMouseWheel)
+                                        EVT_MOUSE_CAPTURE_LOST(ExpandedVornListBox::OnCaptureLost)
+                                            wxEND_EVENT_TABLE()
 
-ExpandedVornListBox::ExpandedVornListBox(VornListBoxCallback* owner, wxWindow* parent, wxFont& font,
-                                         bool fontGiven, int x, int y, int width, int height,
-                                         int offset)
+                                                ExpandedVornListBox::ExpandedVornListBox(
+                                                    VornListBoxCallback* owner, wxWindow* parent,
+                                                    wxFont& font, bool fontGiven, int x, int y,
+                                                    int width, int height, int offset)
     : wxFrame(parent, wxID_ANY, wxEmptyString, wxPoint(x, y), wxSize(width, height), kPopupStyle),
       m_pOwner(owner),
       m_width(width),
@@ -110,9 +108,9 @@ void ExpandedVornListBox::ClampOffset() {
 
 void ExpandedVornListBox::CheckForScroll() {
   if (!m_pScrollBar) {
-    m_pScrollBar = std::make_unique<VornListBoxScrollBar>(
-        m_colours.border, m_colours.background, m_colours.highlight, m_width - kBarInset, 2,
-        m_visibleHeight - 2, this);
+    m_pScrollBar = std::make_unique<VornListBoxScrollBar>(m_colours.border, m_colours.background,
+                                                          m_colours.highlight, m_width - kBarInset,
+                                                          2, m_visibleHeight - 2, this);
     m_pScrollBar->SetBox(this);
   }
   // The bar reports value changes back through SetScrollPos; the offset is

@@ -1,10 +1,11 @@
 // The closed list box: the chosen item's text on the skin's background, a
 // press opens the pop-up list.
+#include "vorn/VornListBox.h"
+
 #include <wx/dcclient.h>
 #include <wx/dcmemory.h>
 
 #include "VornListBoxTexts.h"
-#include "vorn/VornListBox.h"
 
 using namespace vorn_list_texts;
 

@@ -32,7 +32,8 @@ void VornListBoxCallback::SetSelected(int index, bool notify) {
   VornControl* control = GetListControl();
   if (!control) return;
   if (notify) {
-    if (VornControlGroup* group = control->GetGroup()) group->ControlSelected(control->GetId(), control);
+    if (VornControlGroup* group = control->GetGroup())
+      group->ControlSelected(control->GetId(), control);
   }
   control->Refresh(false);
 }
@@ -144,6 +145,9 @@ bool VornListBoxCallback::OpenExpanded(int width, wxFont& font, bool fontGiven) 
   m_pExpanded->SetBackgroundColour(m_colours.background);
   m_pExpanded->SetForegroundColour(m_colours.text);
   m_pExpanded->Show(true);
+  // wxGTK's first show of a frame without decorations loses the size it was
+  // created with; set it again once the frame is mapped.
+  m_pExpanded->SetSize(at.x, at.y, width, place.height);
   m_pExpanded->Raise();
   m_pExpanded->SetFocus();
   if (!m_pExpanded->HasCapture()) m_pExpanded->CaptureMouse();
