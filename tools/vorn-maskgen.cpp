@@ -207,8 +207,10 @@ void ScrollThumbMasks(Writer& out) {
 // chevron under them.
 void ListButtonMasks(Writer& out) {
   auto glyph = [](float dy) {
-    return Union(Union(Segment(10, 10 + dy, 22, 10 + dy, 0.8f), Segment(10, 14 + dy, 22, 14 + dy, 0.8f)),
-                 Union(Segment(10, 18 + dy, 22, 18 + dy, 0.8f), Chevron(16, 23 + dy, 3, 2.5f, 1, 0.8f)));
+    const Field lines = Union(
+        Segment(10, 10 + dy, 22, 10 + dy, 0.8f),
+        Union(Segment(10, 14 + dy, 22, 14 + dy, 0.8f), Segment(10, 18 + dy, 22, 18 + dy, 0.8f)));
+    return Union(lines, Chevron(16, 23 + dy, 3, 2.5f, 1, 0.8f));
   };
   out("listbutton_glyph.png", Fill(32, 32, glyph(0)));
   out("listbutton_glyph_down.png", Fill(32, 32, glyph(1)));
