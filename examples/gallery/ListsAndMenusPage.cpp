@@ -3,6 +3,8 @@
 // in the log. The right half is kept for the menus and pop-up buttons.
 #include <wx/dcmemory.h>
 
+#include <functional>
+
 #include "Gallery.h"
 
 namespace {
@@ -29,7 +31,9 @@ class ListGroup : public LoggingGroup<VornControlGroup> {
           index < 0 ? wxString("-") : wxString::FromUTF8(list->GetItemText(index).c_str());
       m_log.Add(wxString::Format("  %s: %d \"%s\"", NameOf(id), index, text));
     }
+    if (onChoice) onChoice();
   }
+  std::function<void()> onChoice;
 };
 
 class ListsAndMenusPage : public GalleryPage {
@@ -37,6 +41,7 @@ class ListsAndMenusPage : public GalleryPage {
   ListsAndMenusPage(wxWindow* parent, GalleryContext& ctx)
       : GalleryPage(parent, ctx), m_group(ctx.Log()) {
     BuildLists();
+    m_group.onChoice = [this] { Refresh(false); };
     SetSize(960, kFirstRowY + 3 * kRowGap + 40);
   }
   ~ListsAndMenusPage() override { DestroyChildren(); }
@@ -49,6 +54,17 @@ class ListsAndMenusPage : public GalleryPage {
       const int y = box->GetOffset() + 2 * m_pShort->GetElement(0)->GetHeight() + 4;
       SendMouse(box, wxEVT_MOTION, 30, y);
       SendMouse(box, wxEVT_LEFT_DOWN, 30, y);
+    }
+    // The list button by keyboard: the second view.
+    if (!m_pButton) return;
+    ClickOn(m_pButton);
+    if (ExpandedVornListBox* box = m_pButton->GetExpanded()) {
+      for (int key : {WXK_DOWN, WXK_DOWN, WXK_RETURN}) {
+        wxKeyEvent e(wxEVT_CHAR);
+        e.SetEventObject(box);
+        e.m_keyCode = key;
+        box->GetEventHandler()->ProcessEvent(e);
+      }
     }
   }
 
@@ -83,6 +99,12 @@ class ListsAndMenusPage : public GalleryPage {
     for (int i = 0; i < 3; ++i)
       DrawText(dc, m_ctx.Msg(captions[i]), kLeftX, kFirstRowY + i * kRowGap - 20, "small",
                "text_dim");
+    if (m_pButton && m_pButton->GetSelected() >= 0) {
+      // The button shows no text of its own: its choice is written beside it.
+      const wxPoint at = m_pButton->GetPosition();
+      DrawText(dc, wxString::FromUTF8(m_pButton->GetShownText().c_str()), at.x + 44, at.y + 8,
+               "label", "text");
+    }
   }
 
  private:
