@@ -480,6 +480,19 @@ void EditWidgetMasks(Writer& out) {
   SunkenWell(out, "editvalue", 96, 22, 3);
 }
 
+// List button: the push button's face with three list lines and a small
+// chevron under them.
+void ListButtonMasks(Writer& out) {
+  auto glyph = [](float dy) {
+    const Field lines = Union(
+        Segment(10, 10 + dy, 22, 10 + dy, 0.8f),
+        Union(Segment(10, 14 + dy, 22, 14 + dy, 0.8f), Segment(10, 18 + dy, 22, 18 + dy, 0.8f)));
+    return Union(lines, Chevron(16, 23 + dy, 3, 2.5f, 1, 0.8f));
+  };
+  out("listbutton_glyph.png", Fill(32, 32, glyph(0)));
+  out("listbutton_glyph_down.png", Fill(32, 32, glyph(1)));
+}
+
 void Generate(Writer& out) {
   // Push button: a 32 x 32 tool face with a plus glyph.
   RaisedFace(out, "push", 32, 32, 6);
@@ -590,8 +603,8 @@ void Generate(Writer& out) {
   ScrollThumbMasks(out);
   InstrumentMasks(out);
   ValueControlMasks(out);
-
   EditWidgetMasks(out);
+  ListButtonMasks(out);
 }
 
 }  // namespace

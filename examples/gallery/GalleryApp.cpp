@@ -348,7 +348,14 @@ class GalleryApp : public wxApp {
       wxMemoryDC mem(shot);
       mem.Blit(0, 0, size.x, size.y, &screen, 0, 0);
     }
-    if (LooksDrawn(shot.ConvertToImage())) return shot;
+    if (LooksDrawn(shot.ConvertToImage())) {
+      // Pop-ups are top-level windows of their own: the frame's read-back
+      // does not hold them.
+      wxMemoryDC mem(shot);
+      page->RenderPopUps(mem, m_frame->ScreenToClient(page->GetScreenPosition()));
+      mem.SelectObject(wxNullBitmap);
+      return shot;
+    }
 
     std::fprintf(stderr, "vorn-gallery: screen not readable, drawing the page directly\n");
     TopBar* bar = m_frame->GetTopBar();
@@ -361,6 +368,7 @@ class GalleryApp : public wxApp {
     mem.Clear();
     RenderToolkitWindows(bar, mem, wxPoint(0, 0));
     RenderToolkitWindows(page, mem, wxPoint(6, barHeight + 6));
+    page->RenderPopUps(mem, wxPoint(6, barHeight + 6));
     mem.SelectObject(wxNullBitmap);
     return drawn;
   }
@@ -374,6 +382,15 @@ class GalleryApp : public wxApp {
     }
     std::fprintf(stderr, "vorn-gallery: unknown language %s\n", name.utf8_str().data());
     return false;
+  }
+
+  void SaveShot(const wxBitmap& shot, const wxString& path) {
+    if (!LooksDrawn(shot.ConvertToImage()) || !shot.SaveFile(path, wxBITMAP_TYPE_PNG)) {
+      std::fprintf(stderr, "vorn-gallery: cannot write %s\n", path.utf8_str().data());
+      m_exitCode = 1;
+    } else {
+      std::printf("%s\n", path.utf8_str().data());
+    }
   }
 
   void TakeScreenshots() {
@@ -390,14 +407,13 @@ class GalleryApp : public wxApp {
       m_frame->Refresh();
       m_frame->Update();
       PumpFor(400);
-      const wxBitmap shot = Capture(m_frame->GetPage(i));
-      const wxString path =
-          wxString::Format("%s/%02zu-%s.png", m_shotDir, i + 1, infos[i].fileName);
-      if (!LooksDrawn(shot.ConvertToImage()) || !shot.SaveFile(path, wxBITMAP_TYPE_PNG)) {
-        std::fprintf(stderr, "vorn-gallery: cannot write %s\n", path.utf8_str().data());
-        m_exitCode = 1;
-      } else {
-        std::printf("%s\n", path.utf8_str().data());
+      SaveShot(Capture(m_frame->GetPage(i)),
+               wxString::Format("%s/%02zu-%s.png", m_shotDir, i + 1, infos[i].fileName));
+      if (m_frame->GetPage(i)->OpenPopUpForShot()) {
+        PumpFor(200);
+        SaveShot(Capture(m_frame->GetPage(i)),
+                 wxString::Format("%s/%02zu-%s-open.png", m_shotDir, i + 1, infos[i].fileName));
+        m_frame->GetPage(i)->ClosePopUps();
       }
     }
     m_frame->Destroy();

@@ -28,3 +28,4 @@
 #include "vorn/VornSlider.h"
 #include "vorn/VornEdit.h"
 #include "vorn/VornMultiEdit.h"
+#include "vorn/VornListBox.h"
