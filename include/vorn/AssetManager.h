@@ -9,9 +9,11 @@
 #include <wx/image.h>
 #include <wx/string.h>
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "vorn/Asset.h"
@@ -198,6 +200,23 @@ class AssetManager {
   std::string m_subLanguage;
   std::multimap<std::string, std::unique_ptr<Asset>> m_assets;
   std::vector<std::unique_ptr<AssetLoader>> m_loaders;
+  // Lookup side of the index: the variants of each name in registration
+  // order, and the variant last chosen for the current settings. A memo is
+  // valid while its generation equals m_memoGeneration; anything that
+  // changes the settings or the index bumps the generation.
+  struct NameEntry {
+    std::vector<Asset*> variants;
+    mutable Asset* best = nullptr;
+    mutable std::uint64_t memo = 0;
+  };
+  std::unordered_map<std::string, NameEntry> m_byName;
+  std::uint64_t m_memoGeneration = 1;
+  std::string m_platformKey;        // m_platform lower-cased
+  mutable std::string m_lookupKey;  // reused so lookups do not allocate
+  void ForgetChoices() { ++m_memoGeneration; }
+  void ClearIndex();
+  const NameEntry* FindName(const char* name) const;
+  Asset* BestForSettings(const NameEntry& entry) const;
   void* m_pSpecialInfo = nullptr;
   std::map<std::string, ColorA> m_colours;
   std::map<std::string, wxFont> m_fonts;
