@@ -200,20 +200,22 @@ class AssetManager {
   std::string m_subLanguage;
   std::multimap<std::string, std::unique_ptr<Asset>> m_assets;
   std::vector<std::unique_ptr<AssetLoader>> m_loaders;
-  // Lookup side of the index: the variants of each name in registration
-  // order, and the variant last chosen for the current settings. A memo is
-  // valid while its generation equals m_memoGeneration; anything that
-  // changes the settings or the index bumps the generation.
+  // Lookup side of the index: per name, its variants in registration order
+  // (m_variantLists[variants]) and the variant last chosen for the current
+  // settings, valid while memo equals m_memoGeneration. Anything that changes
+  // the settings or the index moves the generation on. Kept small so that a
+  // lookup touches one node.
   struct NameEntry {
-    std::vector<Asset*> variants;
     mutable Asset* best = nullptr;
-    mutable std::uint64_t memo = 0;
+    mutable std::uint32_t memo = 0;
+    std::uint32_t variants = 0;
   };
   std::unordered_map<std::string, NameEntry> m_byName;
-  std::uint64_t m_memoGeneration = 1;
+  std::vector<std::vector<Asset*>> m_variantLists;
+  std::uint32_t m_memoGeneration = 1;
   std::string m_platformKey;        // m_platform lower-cased
   mutable std::string m_lookupKey;  // reused so lookups do not allocate
-  void ForgetChoices() { ++m_memoGeneration; }
+  void ForgetChoices();
   void ClearIndex();
   const NameEntry* FindName(const char* name) const;
   Asset* BestForSettings(const NameEntry& entry) const;

@@ -181,7 +181,12 @@ bool AssetManager::SetAsset(Asset* asset) {
   VORN_ASSERT(asset != nullptr);
   if (!asset) return false;
   std::unique_ptr<Asset> owned(asset);
-  std::vector<Asset*>& variants = m_byName[asset->name].variants;
+  auto [entry, added] = m_byName.try_emplace(asset->name);
+  if (added) {
+    entry->second.variants = static_cast<std::uint32_t>(m_variantLists.size());
+    m_variantLists.emplace_back();
+  }
+  std::vector<Asset*>& variants = m_variantLists[entry->second.variants];
   auto range = m_assets.equal_range(asset->name);
   for (auto it = range.first; it != range.second; ++it) {
     if (it->second->IsEqual(asset->name.c_str(), asset->platform.c_str(), asset->language.c_str(),
@@ -199,8 +204,16 @@ bool AssetManager::SetAsset(Asset* asset) {
   return true;
 }
 
+void AssetManager::ForgetChoices() {
+  if (++m_memoGeneration != 0) return;
+  // Wrapped round: no memo may look current by accident.
+  for (auto& entry : m_byName) entry.second.memo = 0;
+  m_memoGeneration = 1;
+}
+
 void AssetManager::ClearIndex() {
   m_byName.clear();
+  m_variantLists.clear();
   m_assets.clear();
   ForgetChoices();
 }
@@ -215,7 +228,7 @@ const AssetManager::NameEntry* AssetManager::FindName(const char* name) const {
 
 Asset* AssetManager::BestForSettings(const NameEntry& entry) const {
   if (entry.memo != m_memoGeneration) {
-    entry.best = Choose(entry.variants, m_platformKey, m_language, m_subLanguage);
+    entry.best = Choose(m_variantLists[entry.variants], m_platformKey, m_language, m_subLanguage);
     entry.memo = m_memoGeneration;
   }
   return entry.best;
@@ -237,7 +250,7 @@ bool AssetManager::GetBestAsset(Asset*& out, const char* name, const char* platf
       EqualsLowered(Str(subLanguage), m_subLanguage))
     best = BestForSettings(*entry);
   else
-    best = Choose(entry->variants, ToLower(Str(platform)), ToLower(Str(language)),
+    best = Choose(m_variantLists[entry->variants], ToLower(Str(platform)), ToLower(Str(language)),
                   ToLower(Str(subLanguage)));
   if (best) out = best;
   return best != nullptr;
@@ -245,8 +258,8 @@ bool AssetManager::GetBestAsset(Asset*& out, const char* name, const char* platf
 
 bool AssetManager::GetAllAssets(const char* name, std::vector<Asset*>& out) const {
   const NameEntry* entry = FindName(name);
-  if (!entry || entry->variants.empty()) return false;
-  for (Asset* a : entry->variants) {
+  if (!entry) return false;
+  for (Asset* a : m_variantLists[entry->variants]) {
     for (int t = 0; t < kTries; ++t) {
       if (Try(t, *a, m_platformKey, m_language, m_subLanguage)) {
         out.push_back(a);

@@ -92,44 +92,66 @@ void GreyLoop(unsigned char* px, const unsigned char* mask, std::size_t count,
 }
 
 #ifdef VORN_GREY_VBMI
-// The blend in integers: a + d*(255-grey)/255, rounded down. Where that
+// The blend in integers: a + n, n = d*(255-grey)/255 rounded down. Where that
 // quotient is not whole it is at least 1/255 away from a whole number, far
 // beyond the rounding of the doubles, so both forms agree. Where it is whole
-// the double product can land just below it and the blend comes out one
-// less, for a few (grey, d) pairs and only while a stays under a bound. The
-// bounds are found once by evaluating the double blend itself; if they ever
-// failed to have that shape the fast path would stay off.
-struct BlendBounds {
-  alignas(64) std::array<unsigned char, 256> atFull{};  // bound for d = 255
-  alignas(64) std::array<unsigned char, 256> other{};   // largest bound for d < 255
+// the double product can land just below it, and the sum with a then rounds
+// to just below a + n (one less after trunc) exactly while a + n is at most
+// the largest power of two not above k*n, for one factor k per grey level
+// (0 where it never happens). The factors are found once, from the double
+// blend itself, and checked against it for every whole case and every a; if
+// any disagreed the fast path would stay off.
+struct BlendFactors {
+  alignas(64) std::array<unsigned char, 256> low{};   // k * 256, low byte
+  alignas(64) std::array<unsigned char, 256> high{};  // k * 256, high byte
   bool usable = true;
 };
 
-const BlendBounds& Bounds() {
-  static const BlendBounds bounds = [] {
-    BlendBounds b;
+inline int FloorPowerOfTwo(int x) {
+  int p = 1;
+  while (p * 2 <= x) p *= 2;
+  return x > 0 ? p : 0;
+}
+
+const BlendFactors& Factors() {
+  static const BlendFactors factors = [] {
+    BlendFactors f;
+    std::array<int, 256> k256{};
+    // The smallest factor that covers every a that comes out one less.
     for (int g = 1; g < 255; ++g) {
       const double keep = 1 - g / 255.0;
       for (int d = 1; d < 256; ++d) {
         const int product = d * (255 - g);
         if (product % 255) continue;
-        const int whole = product / 255;
-        int bound = 0;  // a = 0 .. bound-1 come out one less
-        for (int a = 0; a < 256; ++a) {
-          const unsigned char got = Blend(a, d, keep);
-          const auto integer = static_cast<unsigned char>(a + whole);
-          if (got == integer) continue;
-          if (got != static_cast<unsigned char>(integer - 1) || a != bound) b.usable = false;
-          bound = a + 1;
-        }
-        if (bound > 255) b.usable = false;
-        auto& slot = d == 255 ? b.atFull[g] : b.other[g];
-        slot = static_cast<unsigned char>(std::max<int>(slot, std::min(bound, 255)));
+        const int n = product / 255;
+        int last = -1;
+        for (int a = 0; a < 256; ++a)
+          if (Blend(a, d, keep) != static_cast<unsigned char>(a + n)) last = a;
+        if (last >= 0) k256[g] = std::max(k256[g], ((last + n) * 256 + n - 1) / n);
       }
     }
-    return b;
+    for (int g = 0; g < 256; ++g) {
+      if (k256[g] > 0xFFFF) f.usable = false;
+      f.low[g] = static_cast<unsigned char>(k256[g] & 0xFF);
+      f.high[g] = static_cast<unsigned char>((k256[g] >> 8) & 0xFF);
+    }
+    // The rule, as the kernel computes it, against the double blend.
+    for (int g = 1; g < 255 && f.usable; ++g) {
+      const double keep = 1 - g / 255.0;
+      for (int d = 1; d < 256; ++d) {
+        const int product = d * (255 - g);
+        if (product % 255) continue;
+        const int n = product / 255;
+        const int limit = FloorPowerOfTwo((n * 256 * (k256[g] & 0xFFFF)) >> 16);
+        for (int a = 0; a < 256; ++a) {
+          const auto rule = static_cast<unsigned char>(a + n - (a + n <= limit ? 1 : 0));
+          if (rule != Blend(a, d, keep)) f.usable = false;
+        }
+      }
+    }
+    return f;
   }();
-  return bounds;
+  return factors;
 }
 
 bool HasByteShuffles() {
@@ -157,26 +179,36 @@ VORN_VBMI inline __m512i Lookup(const Table& t, __m512i index) {
   return _mm512_mask_blend_epi8(_mm512_movepi8_mask(index), low, high);
 }
 
-// Eight-bit lanes widened to sixteen: a + d*k/255 rounded down, low byte;
-// whole marks the lanes where d*k/255 is a whole number.
-VORN_VBMI inline __m512i BlendHalf(__m512i d, __m512i k, __m512i a, __m512i over255,
-                                   __m512i lowBytes, __mmask32& whole) {
-  const __m512i x = _mm512_mullo_epi16(d, k);
-  const __m512i q = _mm512_srli_epi16(_mm512_mulhi_epu16(x, over255), 7);
-  whole = _mm512_cmpeq_epi16_mask(x, _mm512_sub_epi16(_mm512_slli_epi16(q, 8), q));
-  return _mm512_and_si512(_mm512_add_epi16(a, q), lowBytes);
+// The blend of 32 lanes widened to sixteen bits (d, 255 - grey, a and the
+// grey level's factor), as its low byte.
+VORN_VBMI inline __m512i BlendHalf(__m512i d, __m512i keep, __m512i a, __m512i factor) {
+  const __m512i x = _mm512_mullo_epi16(d, keep);
+  // (x * 0x8081) >> 23 == x / 255 for every 16-bit x.
+  const __m512i n =
+      _mm512_srli_epi16(_mm512_mulhi_epu16(x, _mm512_set1_epi16(static_cast<short>(0x8081))), 7);
+  const __mmask32 whole = _mm512_cmpeq_epi16_mask(x, _mm512_sub_epi16(_mm512_slli_epi16(n, 8), n));
+  // a + n <= the largest power of two not above limit exactly when the top
+  // bit of limit is not below that of 2(a + n) - 1: msb(x) < msb(y) holds
+  // exactly when x < y and x < (x ^ y).
+  const __m512i limit = _mm512_mulhi_epu16(_mm512_slli_epi16(n, 8), factor);
+  const __m512i sum = _mm512_add_epi16(a, n);
+  const __m512i twice = _mm512_sub_epi16(_mm512_add_epi16(sum, sum), _mm512_set1_epi16(1));
+  const __mmask32 lowerTop = _mm512_cmplt_epu16_mask(limit, twice) &
+                             _mm512_cmplt_epu16_mask(limit, _mm512_xor_si512(limit, twice));
+  const __mmask32 oneLess = whole & _mm512_test_epi16_mask(n, n) & ~lowerTop;
+  const __m512i r = _mm512_mask_sub_epi16(sum, oneLess, sum, _mm512_set1_epi16(1));
+  return _mm512_and_si512(r, _mm512_set1_epi16(0x00FF));
 }
 
-constexpr __mmask64 kRed = 0x1111111111111111ull;
 constexpr __mmask64 kGreen = 0x2222222222222222ull;
 constexpr __mmask64 kBlue = 0x4444444444444444ull;
-constexpr __mmask64 kColourLanes = kRed | kGreen | kBlue;
+constexpr __mmask64 kColourLanes = 0x7777777777777777ull;
 constexpr __mmask64 kAlphaLanes = 0x8888888888888888ull;
 
 // Sixteen pixels per step; the last step masks its loads and stores.
 template <ColourMode colours, AlphaMode alpha>
 VORN_VBMI void GreyVbmi(unsigned char* px, const unsigned char* mask, std::size_t count,
-                        const GreyTables& tables, const BlendBounds& bounds) {
+                        const GreyTables& tables, const BlendFactors& factors) {
   alignas(64) unsigned char spread[64];  // pixel p's r, g, b from mask bytes 3p..3p+2
   alignas(64) unsigned char widen[64];   // grey of dword p to all its four bytes
   for (int i = 0; i < 64; ++i) {
@@ -188,19 +220,16 @@ VORN_VBMI void GreyVbmi(unsigned char* px, const unsigned char* mask, std::size_
   const __m512i sumWeights = _mm512_set1_epi32(0x00010101);
   const __m512i ones16 = _mm512_set1_epi16(1);
   const __m512i third = _mm512_set1_epi32(21846);  // (s * 21846) >> 16 == s / 3 for s <= 765
-  const __m512i over255 = _mm512_set1_epi16(static_cast<short>(0x8081));  // >> 23: x / 255
-  const __m512i lowBytes = _mm512_set1_epi16(0x00FF);
   const __m512i zero = _mm512_setzero_si512();
-  const __m512i allOnes = _mm512_set1_epi8(-1);
-  Table red{}, green{}, blue{}, full{}, other{};
+  Table red{}, green{}, blue{}, factorLow{}, factorHigh{};
   if constexpr (colours != ColourMode::kKeep) {
     red = LoadTable(tables.byGrey[0].data());
     green = LoadTable(tables.byGrey[1].data());
     blue = LoadTable(tables.byGrey[2].data());
   }
   if constexpr (colours == ColourMode::kMap) {
-    full = LoadTable(bounds.atFull.data());
-    other = LoadTable(bounds.other.data());
+    factorLow = LoadTable(factors.low.data());
+    factorHigh = LoadTable(factors.high.data());
   }
   for (std::size_t i = 0; i < count; i += 16) {
     const std::size_t n = std::min<std::size_t>(16, count - i);
@@ -212,29 +241,19 @@ VORN_VBMI void GreyVbmi(unsigned char* px, const unsigned char* mask, std::size_
     const __m512i grey = _mm512_shuffle_epi8(_mm512_mulhi_epu16(sum, third), widenIndex);
     const __m512i d = _mm512_maskz_loadu_epi8(in4, px + 4 * i);
     __m512i out = d;
-    __mmask64 recheck = 0;
     if constexpr (colours != ColourMode::kKeep) {
       __m512i v = _mm512_mask_blend_epi8(kGreen, Lookup(red, grey), Lookup(green, grey));
       v = _mm512_mask_blend_epi8(kBlue, v, Lookup(blue, grey));
       if constexpr (colours == ColourMode::kMap) {
-        const __m512i keep = _mm512_xor_si512(grey, allOnes);  // 255 - grey
-        __mmask32 wholeLow, wholeHigh;
+        const __m512i keep = _mm512_xor_si512(grey, _mm512_set1_epi8(-1));  // 255 - grey
+        const __m512i kLow = Lookup(factorLow, grey), kHigh = Lookup(factorHigh, grey);
         const __m512i low =
             BlendHalf(_mm512_unpacklo_epi8(d, zero), _mm512_unpacklo_epi8(keep, zero),
-                      _mm512_unpacklo_epi8(v, zero), over255, lowBytes, wholeLow);
+                      _mm512_unpacklo_epi8(v, zero), _mm512_unpacklo_epi8(kLow, kHigh));
         const __m512i high =
             BlendHalf(_mm512_unpackhi_epi8(d, zero), _mm512_unpackhi_epi8(keep, zero),
-                      _mm512_unpackhi_epi8(v, zero), over255, lowBytes, wholeHigh);
-        __m512i blended = _mm512_packus_epi16(low, high);
-        const __mmask64 whole = _mm512_movepi8_mask(
-            _mm512_packs_epi16(_mm512_movm_epi16(wholeLow), _mm512_movm_epi16(wholeHigh)));
-        const __mmask64 dFull = _mm512_cmpeq_epi8_mask(d, allOnes);
-        const __mmask64 oneLess =
-            kColourLanes & dFull & _mm512_cmplt_epu8_mask(v, Lookup(full, grey));
-        blended = _mm512_mask_sub_epi8(blended, oneLess, blended, _mm512_set1_epi8(1));
-        recheck = kColourLanes & in4 & whole & ~dFull & _mm512_test_epi8_mask(d, d) &
-                  _mm512_cmplt_epu8_mask(v, Lookup(other, grey));
-        v = blended;
+                      _mm512_unpackhi_epi8(v, zero), _mm512_unpackhi_epi8(kLow, kHigh));
+        v = _mm512_packus_epi16(low, high);
       }
       out = _mm512_mask_blend_epi8(kColourLanes, out, v);
     }
@@ -244,17 +263,6 @@ VORN_VBMI void GreyVbmi(unsigned char* px, const unsigned char* mask, std::size_
     else if constexpr (alpha == AlphaMode::kSet)
       out = _mm512_mask_blend_epi8(kAlphaLanes, out, grey);
     _mm512_mask_storeu_epi8(px + 4 * i, in4, out);
-    if (recheck) {
-      // Whole-number blends with a bound: the double formula decides.
-      alignas(64) unsigned char before[64];
-      _mm512_store_si512(before, d);
-      for (int lane = 0; lane < 64; ++lane) {
-        if (!((recheck >> lane) & 1)) continue;
-        const std::size_t p = i + lane / 4;
-        const int g = GreyAt(mask + 3 * p);
-        px[4 * p + lane % 4] = Blend(tables.byGrey[lane % 4][g], before[lane], tables.keep[g]);
-      }
-    }
   }
 }
 #endif
@@ -267,8 +275,8 @@ bool ApplyGrey(BitmapA& dst, const wxImage& grey, const Color* colour) {
   GreyTables tables;
   FillTables<colours>(tables, colour);
 #ifdef VORN_GREY_VBMI
-  if (HasByteShuffles() && Bounds().usable) {
-    GreyVbmi<colours, alpha>(dst.data.data(), grey.GetData(), count, tables, Bounds());
+  if (HasByteShuffles() && Factors().usable) {
+    GreyVbmi<colours, alpha>(dst.data.data(), grey.GetData(), count, tables, Factors());
     return true;
   }
 #endif
