@@ -217,6 +217,7 @@ class AssetManager {
   mutable std::string m_lookupKey;  // reused so lookups do not allocate
   void ForgetChoices();
   void ClearIndex();
+  void CompactLookup();
   const NameEntry* FindName(const char* name) const;
   Asset* BestForSettings(const NameEntry& entry) const;
   void* m_pSpecialInfo = nullptr;

@@ -174,6 +174,7 @@ bool AssetManager::LoadAssets() {
       ok = false;
     }
   }
+  CompactLookup();
   return ok;
 }
 
@@ -209,6 +210,16 @@ void AssetManager::ForgetChoices() {
   // Wrapped round: no memo may look current by accident.
   for (auto& entry : m_byName) entry.second.memo = 0;
   m_memoGeneration = 1;
+}
+
+// Loaders register assets one at a time among their other allocations; a
+// fresh copy of the name table puts its nodes next to each other, which is
+// what keeps lookups over many names quick.
+void AssetManager::CompactLookup() {
+  std::unordered_map<std::string, NameEntry> compact;
+  compact.reserve(m_byName.size());
+  for (const auto& entry : m_byName) compact.emplace(entry.first, entry.second);
+  m_byName.swap(compact);
 }
 
 void AssetManager::ClearIndex() {
