@@ -3,6 +3,7 @@
 #include "vorn/AssetManager.h"
 
 #include <algorithm>
+#include <cstring>
 #include <sstream>
 
 #include "vorn/ArchiveAsset.h"
@@ -75,8 +76,10 @@ Asset* Choose(const std::vector<Asset*>& variants, const std::string& platform,
   return nullptr;
 }
 
-// s lower-cased equals lower, without building the lower-cased copy.
-bool EqualsLowered(const char* s, const std::string& lower) {
+// s lower-cased equals lower, without building the lower-cased copy; the
+// common case, s as stored or as the host gave it, costs one strcmp.
+bool EqualsLowered(const char* s, const std::string& lower, const std::string& given) {
+  if (std::strcmp(s, lower.c_str()) == 0 || std::strcmp(s, given.c_str()) == 0) return true;
   std::size_t i = 0;
   for (; s[i]; ++i) {
     char c = s[i];
@@ -257,8 +260,9 @@ bool AssetManager::GetBestAsset(Asset*& out, const char* name, const char* platf
   const NameEntry* entry = FindName(name);
   if (!entry) return false;
   Asset* best = nullptr;
-  if (EqualsLowered(Str(platform), m_platformKey) && EqualsLowered(Str(language), m_language) &&
-      EqualsLowered(Str(subLanguage), m_subLanguage))
+  if (EqualsLowered(Str(platform), m_platformKey, m_platform) &&
+      EqualsLowered(Str(language), m_language, m_language) &&
+      EqualsLowered(Str(subLanguage), m_subLanguage, m_subLanguage))
     best = BestForSettings(*entry);
   else
     best = Choose(m_variantLists[entry->variants], ToLower(Str(platform)), ToLower(Str(language)),
