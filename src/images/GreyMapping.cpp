@@ -155,7 +155,8 @@ const BlendFactors& Factors() {
 }
 
 bool HasByteShuffles() {
-  static const bool has = __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") &&
+  static const bool has = (__builtin_cpu_init(), true) && __builtin_cpu_supports("avx512f") &&
+                          __builtin_cpu_supports("avx512bw") &&
                           __builtin_cpu_supports("avx512vbmi");
   return has;
 }
