@@ -320,7 +320,8 @@ class GalleryApp : public wxApp {
                      "with --screenshot: switch to this language through its button first");
     parser.AddSwitch("", "debug", "print the toolkit's debug lines");
     parser.AddSwitch("", "watch", "reload the skin when a file in its directory changes");
-    parser.AddOption("", "watch-shots", "with --watch: write the current page to DIR after each reload");
+    parser.AddOption("", "watch-shots",
+                     "with --watch: write the current page to DIR after each reload");
   }
   bool OnCmdLineParsed(wxCmdLineParser& parser) override {
     parser.Found("skin", &m_options.skinDir);
