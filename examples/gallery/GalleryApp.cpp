@@ -213,7 +213,7 @@ class GalleryFrame : public wxFrame {
   // and the log stay. The warnings of the reload (a script that does not
   // parse, a bad colour line) go to the log as well as to stderr.
   void ReloadSkin() {
-    const int selection = m_pNotebook ? m_pNotebook->GetSelection() : 0;
+    const int selection = GetSelection();
     std::vector<wxString> problems;
     const WarningMessageHandler previous =
         SetWarningMessageHandler([&problems](const VornString& title, const VornString& text) {
