@@ -56,7 +56,6 @@ bool SkinWatcher::NoteChange(const wxString& path) {
 
 void SkinWatcher::Settle() {
   m_timer.Stop();
-  ++m_reloads;
   if (m_onChange) m_onChange();
 }
 

@@ -47,8 +47,6 @@ class SkinWatcher : public wxEvtHandler {
   // The end of the quiet period: calls onChange once. The timer calls it;
   // tests may too.
   void Settle();
-  // The number of times onChange has run.
-  int Reloads() const { return m_reloads; }
 
   static bool IsScratchFile(const wxString& path);
 
@@ -60,5 +58,4 @@ class SkinWatcher : public wxEvtHandler {
   int m_settleMs;
   wxTimer m_timer;
   std::unique_ptr<wxFileSystemWatcher> m_pWatcher;
-  int m_reloads = 0;
 };

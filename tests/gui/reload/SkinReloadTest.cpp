@@ -118,19 +118,6 @@ TEST_F(SkinReloadTest, BrokenScriptShowsErrorImagesUntilFixed) {
   EXPECT_TRUE(SamePixels(good, Shot()));
 }
 
-TEST_F(SkinReloadTest, NewScriptFileIsFoundOnReload) {
-  // A designer adds a variant of a script in a language directory: the
-  // re-index must see it.
-  fs::create_directories(skin.Path() + "Generic/english");
-  const std::string variant = skin.Path() + "Generic/english/" + kScript;
-  fs::copy_file(Path(kScript), variant);
-  ReplaceInFile(variant, "map text_body.png face\n", "map text_body.png accent\n");
-  Reload();
-  wxColour accent;
-  assets.GetColour("accent", accent);
-  EXPECT_GT(CountNear(Shot(), accent, 30), 200);
-}
-
 TEST(SkinWatcherTest, BurstOfChangesGivesOneReload) {
   int reloads = 0;
   SkinWatcher watcher([&] { ++reloads; });
@@ -154,13 +141,6 @@ TEST(SkinWatcherTest, BurstOfChangesGivesOneReload) {
   EXPECT_TRUE(watcher.NoteChange("/skin/Generic/mask.png"));
   watcher.Settle();
   EXPECT_EQ(2, reloads);
-  EXPECT_EQ(2, watcher.Reloads());
-}
-
-TEST(SkinWatcherTest, WatchesOnlyExistingDirectories) {
-  TempDir dir;
-  SkinWatcher watcher(nullptr);
-  EXPECT_FALSE(watcher.Watch(dir.Path() + "missing/"));
 }
 
 }  // namespace
