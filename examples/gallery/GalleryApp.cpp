@@ -6,12 +6,13 @@
 //   vorn-gallery [--skin DIR] [--archive FILE | --archive-dir DIR]
 //                [--language english|french] [--screenshot DIR]
 //                [--switch-language english|french] [--debug]
-//                [--watch [--watch-shots DIR]]
+//                [--watch [--watch-shots DIR]] [--page N]
 //
 // --screenshot DIR writes one PNG per page and exits; with --switch-language
 // it first clicks that language's button, which rebuilds every page.
 // --watch reloads the skin whenever a file in its directory changes; with
-// --watch-shots each reload also writes the current page to DIR.
+// --watch-shots each reload also writes the current page to DIR. --page N
+// opens on the Nth page.
 #include <wx/cmdline.h>
 #include <wx/dcclient.h>
 #include <wx/dcmemory.h>
@@ -322,6 +323,7 @@ class GalleryApp : public wxApp {
     parser.AddSwitch("", "watch", "reload the skin when a file in its directory changes");
     parser.AddOption("", "watch-shots",
                      "with --watch: write the current page to DIR after each reload");
+    parser.AddOption("", "page", "open on page N (from 1)", wxCMD_LINE_VAL_NUMBER);
   }
   bool OnCmdLineParsed(wxCmdLineParser& parser) override {
     parser.Found("skin", &m_options.skinDir);
@@ -336,6 +338,7 @@ class GalleryApp : public wxApp {
     m_debug = parser.Found("debug");
     m_watch = parser.Found("watch");
     parser.Found("watch-shots", &m_watchShotDir);
+    parser.Found("page", &m_page);
     return wxApp::OnCmdLineParsed(parser);
   }
 
@@ -350,6 +353,8 @@ class GalleryApp : public wxApp {
       if (m_assets->GetNumAssets() == 0) return false;
     }
     m_frame = new GalleryFrame(*m_assets, m_options, m_language);
+    if (m_page >= 1 && static_cast<std::size_t>(m_page) <= m_frame->NumPages())
+      m_frame->GetNotebook()->ChangeSelection(m_page - 1);
     m_frame->Show();
     if (!m_shotDir.empty()) CallAfter([this] { TakeScreenshots(); });
     // The watcher needs the running event loop.
@@ -488,6 +493,7 @@ class GalleryApp : public wxApp {
   bool m_watch = false;
   wxString m_watchShotDir;
   int m_watchShots = 0;
+  long m_page = 0;
   wxTimer m_shotTimer;
   std::unique_ptr<SkinWatcher> m_watcher;
   bool m_debug = false;
