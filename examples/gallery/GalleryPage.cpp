@@ -153,7 +153,9 @@ GalleryPageRegistrar::GalleryPageRegistrar(GalleryPageInfo info) {
 
 // ---- GalleryReceiver -------------------------------------------------------
 
-void GalleryReceiver::OnUpdate(unsigned int id, VornControl*, VornControlHint* hint) {
+void GalleryReceiver::OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) {
+  // Value hints carry id 0; name them after the control that sent them.
+  if (id == 0 && source) id = static_cast<unsigned int>(source->GetId());
   wxString what = "VornControlHint";
   if (auto* value = dynamic_cast<IntValChanged*>(hint))
     what = wxString::Format("IntValChanged %d", value->m_value);
