@@ -493,6 +493,51 @@ void ListButtonMasks(Writer& out) {
   out("listbutton_glyph_down.png", Fill(32, 32, glyph(1)));
 }
 
+// Menus, pop-up buttons and the movie bar: the pop-up buttons' glyphs on the
+// push button's 32 x 32 face (menu lines with an arrow up or to the right),
+// the menu's 12 x 9 radio mark, and the movie bar's 9 x 10 range markers
+// and 9 x 30 playhead, each with a one-pixel outline.
+void MenuAndBarMasks(Writer& out) {
+  const Field lines = Union(Segment(9, 15, 20, 15, 0.8f),
+                            Union(Segment(9, 19, 20, 19, 0.8f), Segment(9, 23, 20, 23, 0.8f)));
+  const Field up = Union(lines, Triangle(16, 8.5f, 4, 3.5f, -1));
+  // A triangle pointing right: the downward one with x and y swapped.
+  const Field downAtY = Triangle(19, 24.5f, 4, 3.5f, 1);
+  const Field right = Union(Union(Segment(7, 12, 18, 12, 0.8f),
+                                  Union(Segment(7, 16, 18, 16, 0.8f), Segment(7, 20, 18, 20, 0.8f))),
+                            [=](float x, float y) { return downAtY(y, x); });
+  auto shifted = [](Field f) { return [f](float x, float y) { return f(x, y - 1); }; };
+  out("popup_glyph_up.png", Fill(32, 32, up));
+  out("popup_glyph_up_down.png", Fill(32, 32, shifted(up)));
+  out("popup_glyph_side.png", Fill(32, 32, right));
+  out("popup_glyph_side_down.png", Fill(32, 32, shifted(right)));
+
+  const Mask markShape = Fill(12, 9, Circle(6.5f, 4.5f, 4.2f));
+  out("menumark_shape.png", markShape);
+  out("menumark_ring.png", Minus(markShape, Fill(12, 9, Circle(6.5f, 4.5f, 3.1f))));
+  out("menumark_dot.png", Fill(12, 9, Circle(6.5f, 4.5f, 2.1f)));
+
+  // Range markers: a right-angled wedge whose upright edge stands where the
+  // range begins (start) or ends (end) and whose slope falls away from it.
+  auto marker = [](bool start) {
+    return [start](float x, float y) {
+      const float px = start ? x : 9 - x;  // the end marker is the mirror image
+      const float slope = ((9.5f - y) - 1.125f * (px - 0.5f)) / 1.505f;
+      return std::max({px - 8.5f, y - 9.5f, slope});
+    };
+  };
+  for (bool start : {true, false}) {
+    const std::string p = start ? "movie_start" : "movie_end";
+    const Field f = marker(start);
+    const Mask shape = Fill(9, 10, [=](float x, float y) { return f(x, y) - 0.9f; });
+    out(p + "_shape.png", shape);
+    out(p + "_fill.png", Fill(9, 10, [=](float x, float y) { return f(x, y) + 0.4f; }));
+  }
+  const Field head = Union(Triangle(4.5f, 4, 4, 6, 1), Segment(4.5f, 4, 4.5f, 29, 0.9f));
+  out("movie_head_shape.png", Fill(9, 30, [=](float x, float y) { return head(x, y) - 0.9f; }));
+  out("movie_head_fill.png", Fill(9, 30, head));
+}
+
 void Generate(Writer& out) {
   // Push button: a 32 x 32 tool face with a plus glyph.
   RaisedFace(out, "push", 32, 32, 6);
@@ -605,6 +650,7 @@ void Generate(Writer& out) {
   ValueControlMasks(out);
   EditWidgetMasks(out);
   ListButtonMasks(out);
+  MenuAndBarMasks(out);
 }
 
 }  // namespace

@@ -66,6 +66,8 @@ class GalleryPage : public VornPanel {
   // For a second screenshot with a pop-up open: open one (true when it
   // opened), draw it at its place over the page drawn at `at`, close it.
   virtual bool OpenPopUpForShot() { return false; }
+  // The same for a third screenshot with a menu open.
+  virtual bool OpenMenuForShot() { return false; }
   virtual void RenderPopUps(wxDC&, const wxPoint&) {}
   virtual void ClosePopUps() {}
 

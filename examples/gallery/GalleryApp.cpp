@@ -451,6 +451,12 @@ class GalleryApp : public wxApp {
                  wxString::Format("%s/%02zu-%s-open.png", m_shotDir, i + 1, infos[i].fileName));
         m_frame->GetPage(i)->ClosePopUps();
       }
+      if (m_frame->GetPage(i)->OpenMenuForShot()) {
+        PumpFor(200);
+        SaveShot(Capture(m_frame->GetPage(i)),
+                 wxString::Format("%s/%02zu-%s-menu.png", m_shotDir, i + 1, infos[i].fileName));
+        m_frame->GetPage(i)->ClosePopUps();
+      }
     }
     m_frame->Destroy();
   }

@@ -29,3 +29,6 @@
 #include "vorn/VornEdit.h"
 #include "vorn/VornMultiEdit.h"
 #include "vorn/VornListBox.h"
+#include "vorn/VornMenu.h"
+#include "vorn/VornPopUpButton.h"
+#include "vorn/VornMovieBar.h"
