@@ -88,6 +88,8 @@ class ColourPickerComp : public VornControl {
   // No hover look: the parts keep their picture under the pointer.
   void OnMouseOver() override {}
   void OnMouseDownLeft() override {}
+  // Disabling in the middle of a drag ends it.
+  void OnEnable(bool enabled) override;
 
  protected:
   // Applies a colour hint to this part's state; false for other hints.
@@ -258,6 +260,8 @@ class ColourPicker : public ColourPickerComp {
 
   // ---- Reactions
   void OnDraw(wxDC* dc) override;
+  // The parts and fields follow the frame.
+  void OnEnable(bool enabled) override;
   // Shows the current components in the fields.
   void UpdateEditRGB();
   void UpdateEditHSV();

@@ -135,6 +135,13 @@ void ColourPicker::SetBgColour(const wxColour& colour) {
   SetLook(look);
 }
 
+void ColourPicker::OnEnable(bool enabled) {
+  ColourPickerComp::OnEnable(enabled);
+  m_pHueValue->SetEnabled(enabled);
+  m_pSaturation->SetEnabled(enabled);
+  for (VornEdit* edit : m_fields) edit->SetEnabled(enabled);
+}
+
 // ---- The colour -----------------------------------------------------------------
 
 void ColourPicker::SetInitialRGB(const Color& colour) {

@@ -32,6 +32,10 @@ void ColourPickerComp::OnUpdate(unsigned int, VornControl* sender, VornControlHi
   TakeHint(hint);
 }
 
+void ColourPickerComp::OnEnable(bool enabled) {
+  if (!enabled) ReleaseMouse();
+}
+
 bool ColourPickerComp::TakeHint(const VornControlHint* hint) {
   if (auto* rgb = dynamic_cast<const ColourHintCurrentRGB*>(hint)) {
     StoreRGB(rgb->m_colour);

@@ -109,19 +109,21 @@ void HueValueControl::EnsureTables() {
 void HueValueControl::PaintField() {
   if (m_field.IsEmpty()) return;
   const int width = m_field.width;
+  // Every channel of an HSV colour is the value times the channel at value
+  // 1, so one conversion per column gives the same bytes as one per pixel.
+  std::vector<Color> atFull(width);
+  for (int i = 0; i < width; ++i) atFull[i].HSVtoRGB(m_hues[i], m_saturation, 1.0);
   for (int j = 0; j < m_field.height; ++j) {
     unsigned char* p = m_field.Pixel(0, j);
     const double v = m_values[j];
     for (int i = 0; i < width; ++i, p += 3) {
       if (v < 0.0) {
         p[0] = p[1] = p[2] = Byte(m_hues[i]);
-        continue;
+      } else {
+        p[0] = Byte(v * atFull[i].r);
+        p[1] = Byte(v * atFull[i].g);
+        p[2] = Byte(v * atFull[i].b);
       }
-      Color c;
-      c.HSVtoRGB(m_hues[i], m_saturation, v);
-      p[0] = Byte(c.r);
-      p[1] = Byte(c.g);
-      p[2] = Byte(c.b);
     }
   }
   m_fieldSaturation = m_saturation;

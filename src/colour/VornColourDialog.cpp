@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "ColourTexts.h"
 #include "vorn/AssetManager.h"
 #include "vorn/ColourPicker.h"

@@ -43,26 +43,16 @@ inline std::string State(const ColourPickerComp& part) {
   return out.str();
 }
 
-// A picker in a recording group; the group outlives the frame.
-class PickerTest : public ::testing::Test {
+// A recording group with the colour log; the group outlives the frame.
+class ColourTest : public ::testing::Test {
  protected:
   EventLog log;
   RecordingGroupOf<VornControlGroup> group{&log};
   ColourLog colours{&log};
   TestFrame frame{wxSize(500, 240)};
-  ColourPicker* picker = nullptr;
-  HueValueControl* hv = nullptr;
-  SaturationPreview* sp = nullptr;
 
-  void SetUp() override {
-    group.Register(&colours);
-    picker = new ColourPicker(0, 0, frame.Get(), 40, &group);
-    hv = picker->GetHueValueControl();
-    sp = picker->GetSaturationPreview();
-    colours.names = {{picker, "picker"}, {hv, "hv"}, {sp, "sp"}};
-    log.clear();
-  }
-  void TearDown() override {
+  ColourTest() { group.Register(&colours); }
+  ~ColourTest() override {
     frame->DestroyChildren();
     group.DeRegister(&colours);
   }
@@ -70,6 +60,23 @@ class PickerTest : public ::testing::Test {
     std::string s = Joined(log);
     log.clear();
     return s;
+  }
+  // A colour arriving from another part.
+  void Arrive(VornControlHint&& hint) {
+    group.Update(9, nullptr, &hint);
+    log.clear();
+  }
+};
+
+class PickerTest : public ColourTest {
+ protected:
+  ColourPicker* picker = new ColourPicker(0, 0, frame.Get(), 40, &group);
+  HueValueControl* hv = picker->GetHueValueControl();
+  SaturationPreview* sp = picker->GetSaturationPreview();
+
+  PickerTest() {
+    colours.names = {{picker, "picker"}, {hv, "hv"}, {sp, "sp"}};
+    log.clear();
   }
   // Every part holds the picker's colour.
   ::testing::AssertionResult InStep() const {

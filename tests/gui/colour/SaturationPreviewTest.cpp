@@ -6,8 +6,6 @@
 
 namespace {
 
-using colourtest::ColourLog;
-
 TEST(SaturationScale, PositionsAndSaturations) {
   const struct {
     double s;
@@ -21,61 +19,34 @@ TEST(SaturationScale, PositionsAndSaturations) {
   for (const auto& c : toSat) EXPECT_DOUBLE_EQ(SaturationPreview::PosToSat(c.y), c.s) << c.y;
 }
 
-class SaturationTest : public ::testing::Test {
+class SaturationTest : public colourtest::ColourTest {
  protected:
-  EventLog log;
-  RecordingGroupOf<VornControlGroup> group{&log};
-  ColourLog colours{&log};
-  TestFrame frame{wxSize(200, 200)};
-  SaturationPreview* sp = nullptr;
+  SaturationPreview* sp = new SaturationPreview(0, 0, 32, 124, frame.Get(), 4, &group);
   static constexpr int kTabX = 25;  // inside the tab's column
 
-  void SetUp() override {
-    group.Register(&colours);
-    sp = new SaturationPreview(0, 0, 32, 124, frame.Get(), 4, &group);
+  SaturationTest() {
     colours.names = {{sp, "sp"}};
-    ColourHintCurrentHSV start(0.25, 0.5, 0.8);
-    group.Update(9, nullptr, &start);
-    log.clear();
-  }
-  void TearDown() override {
-    frame->DestroyChildren();
-    group.DeRegister(&colours);
-  }
-  std::string Take() {
-    std::string s = Joined(log);
-    log.clear();
-    return s;
+    Arrive(ColourHintCurrentHSV(0.25, 0.5, 0.8));
   }
 };
 
-TEST_F(SaturationTest, HitTests) {
-  EXPECT_TRUE(sp->IsSlider(kTabX, 59));
-  EXPECT_TRUE(sp->IsSlider(kTabX, 62));
-  EXPECT_FALSE(sp->IsSlider(kTabX, 63));
-  EXPECT_FALSE(sp->IsSlider(8, 59));  // the scale, not the tab
-  EXPECT_TRUE(sp->IsScale(8, 5));
-  EXPECT_TRUE(sp->IsScale(kTabX, 115));
-  EXPECT_FALSE(sp->IsScale(8, 4));
-  EXPECT_FALSE(sp->IsScale(8, 116));
-  EXPECT_FALSE(sp->IsScale(1, 60));
-}
-
 TEST_F(SaturationTest, DragsAreRelativeToThePress) {
-  // On the tab: no jump. Eleven pixels up add a tenth; with Alt a hundredth.
-  Mouse(sp, wxEVT_LEFT_DOWN, kTabX, 61);
+  // On the tab (its centre is 59, 3 pixels either side): no jump. Eleven
+  // pixels up add a tenth; with Alt a hundredth.
+  EXPECT_FALSE(sp->IsSlider(kTabX, 63));
+  Mouse(sp, wxEVT_LEFT_DOWN, kTabX, 62);
   EXPECT_EQ(Take(), "sel 4");
   EXPECT_TRUE(sp->IsMouseCaptive());
-  Mouse(sp, wxEVT_MOTION, kTabX, 50);
+  Mouse(sp, wxEVT_MOTION, kTabX, 51);
   EXPECT_EQ(Take(), "hsv sp 0.25 0.6 0.8");
-  Mouse(sp, wxEVT_MOTION, kTabX, 39, false, true);
+  Mouse(sp, wxEVT_MOTION, kTabX, 40, false, true);
   EXPECT_EQ(Take(), "hsv sp 0.25 0.52 0.8");
   // Far beyond either end: clamped, and no repeat once there.
   Mouse(sp, wxEVT_MOTION, kTabX, -400);
   Mouse(sp, wxEVT_MOTION, kTabX, -500);
   EXPECT_EQ(Take(), "hsv sp 0.25 1 0.8");
-  Mouse(sp, wxEVT_MOTION, kTabX, 61);
-  Mouse(sp, wxEVT_LEFT_UP, kTabX, 61);
+  Mouse(sp, wxEVT_MOTION, kTabX, 62);
+  Mouse(sp, wxEVT_LEFT_UP, kTabX, 62);
   EXPECT_EQ(Take(), "hsv sp 0.25 0.5 0.8 unsel 4");
   EXPECT_FALSE(sp->IsMouseCaptive());
 }
