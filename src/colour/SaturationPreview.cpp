@@ -81,6 +81,7 @@ void SaturationPreview::ScrollDown() {
 
 void SaturationPreview::OnMouseDownLeft() {
   if (GetMouseDownLeft()) {
+    Recalc();  // a part made by the default constructor has had no size event
     const int x = m_lastDownX, y = m_lastDownY;
     const bool onSlider = IsSlider(x, y);
     if (!onSlider && !IsScale(x, y)) return;
@@ -119,6 +120,7 @@ void SaturationPreview::OnSize(wxSizeEvent& event) {
 void SaturationPreview::OnDraw(wxDC* dc) {
   VORN_ASSERT(dc != nullptr);
   if (!dc) return;
+  Recalc();
   ColourDrawing::Fill(*dc, wxRect(wxPoint(0, 0), GetClientSize()), m_look.frame);
   DrawScale(*dc);
   DrawSlider(*dc);
