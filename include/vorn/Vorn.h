@@ -32,3 +32,4 @@
 #include "vorn/VornMenu.h"
 #include "vorn/VornPopUpButton.h"
 #include "vorn/VornMovieBar.h"
+#include "vorn/ColourPicker.h"

@@ -16,6 +16,19 @@ const std::vector<VornSkinName>& VornToolkitSkinNames() {
       {N::kAsset, "plenth_scroll_off.sts", "list box"},
       {N::kAsset, "plenth_scroll_up.sts", "list box"},
       {N::kAsset, "plenth_scroll_down.sts", "list box"},
+      // The colour picker's look and its dialog's buttons.
+      {N::kColour, "colourpicker_frame", "colour picker"},
+      {N::kColour, "colourpicker_edge", "colour picker"},
+      {N::kColour, "colourpicker_label", "colour picker"},
+      {N::kColour, "colourpicker_field_text", "colour picker"},
+      {N::kColour, "colourpicker_field_fill", "colour picker"},
+      {N::kColour, "colourpicker_field_selection", "colour picker"},
+      {N::kColour, "colourpicker_marker", "colour picker"},
+      {N::kColour, "colourpicker_marker_shadow", "colour picker"},
+      {N::kColour, "colourpicker_slider", "colour picker"},
+      {N::kFont, "colourpicker_label", "colour picker"},
+      {N::kFont, "colourpicker_field", "colour picker"},
+      {N::kAsset, "button_text.sts", "colour picker"},
   };
   return names;
 }
