@@ -35,12 +35,14 @@ constexpr __mmask64 kOdd = 0xAAAAAAAAAAAAAAAAull;
 struct Indexes {
   alignas(64) unsigned char spread[64];       // pixel p's r, g, b from mask bytes 3p..3p+2
   alignas(64) unsigned char widen[64];        // grey of dword p to its four bytes
+  alignas(64) unsigned char wordGrey[64];     // grey of dword p to the low byte of its words
   alignas(64) unsigned char own[4][64];       // each byte of block v's pixel: its packed byte
   alignas(64) unsigned char redGreen[4][64];  // the same, the green bytes from a second table
   Indexes() {
     for (int i = 0; i < 64; ++i) {
       spread[i] = static_cast<unsigned char>(i % 4 == 3 ? 0 : (i / 4) * 3 + i % 4);
       widen[i] = static_cast<unsigned char>((i % 16) / 4 * 4);
+      wordGrey[i] = static_cast<unsigned char>(i % 2 ? 0x80 : (i % 16) / 4 * 4);
       for (int v = 0; v < 4; ++v) {
         const int j = i / 4, packed = 16 * (j / 4) + 4 * v + j % 4;
         own[v][i] = static_cast<unsigned char>(packed);
@@ -67,10 +69,10 @@ VORN_AVX512 inline __m512i Lookup(const Table& t, __m512i index, __mmask64 high)
   return _mm512_mask_blend_epi8(high, low, up);
 }
 
-// The blend of one 16-pixel block: a holds the table bytes (and what the
-// alpha lanes get), d the destination, h16 255 - grey in each word.
-VORN_AVX512 inline __m512i BlendBlock(__m512i a, __m512i d, __m512i h16, __m512i lambda,
-                                      const Table& log16, __m512i highMask) {
+// The blend of one 16-pixel block: a holds the table bytes, base what the
+// alpha lanes get, d the destination, h16 255 - grey in each word.
+VORN_AVX512 inline __m512i BlendBlock(__m512i a, __m512i base, __m512i d, __m512i h16,
+                                      __m512i lambda, const Table& log16, __m512i highMask) {
   const __m512i lowByte = _mm512_set1_epi16(0x00FF);
   const __m512i allOnes = _mm512_set1_epi8(-1);
   const __m512i xe = _mm512_mullo_epi16(_mm512_and_si512(d, lowByte), h16);
@@ -81,13 +83,13 @@ VORN_AVX512 inline __m512i BlendBlock(__m512i a, __m512i d, __m512i h16, __m512i
       _mm512_mask_blend_epi8(kOdd, _mm512_srli_epi16(ye, 8), yo);  // less one if whole
   const __m512i low = _mm512_mask_blend_epi8(kOdd, ye, _mm512_slli_epi16(yo, 8));
   const __mmask64 whole = _mm512_mask_cmpeq_epi8_mask(kColour, low, allOnes);
-  const __m512i sum = _mm512_mask_add_epi8(a, kColour, a, n);
+  const __m512i sum = _mm512_mask_add_epi8(base, kColour, a, n);
   __mmask64 plusOne = whole;
   const __mmask64 maybe = _mm512_mask_test_epi8_mask(whole, lambda, lambda);
   if (maybe) {  // rare: whole blends at the grey levels that can come out one less
     const __m512i log = Lookup(log16, n, _mm512_movepi8_mask(n));
-    const __m512i bits =
-        _mm512_permutexvar_epi8(_mm512_srli_epi16(_mm512_add_epi8(log, lambda), 2), highMask);
+    const __m512i bits = _mm512_maskz_permutexvar_epi8(
+        ~0ull, _mm512_srli_epi16(_mm512_add_epi8(log, lambda), 2), highMask);
     const __mmask64 oneLess =
         _mm512_mask_testn_epi8_mask(maybe, sum, bits) & ~_mm512_cmplt_epu8_mask(sum, a);
     plusOne = whole & ~oneLess;
@@ -147,10 +149,9 @@ VORN_AVX512 std::size_t Run(unsigned char* px, const unsigned char* mask, std::s
       __m512i alphas = packed;
       if constexpr (alpha == AlphaMode::kMap)
         alphas = _mm512_movm_epi8(_mm512_test_epi8_mask(packed, packed));
-      __m512i lambda = _mm512_setzero_si512(), keep = _mm512_setzero_si512();
+      __m512i lambda = _mm512_setzero_si512();
       if constexpr (colours == ColourMode::kMap) {
         lambda = Lookup(lambdas, packed, high);
-        keep = _mm512_xor_si512(packed, _mm512_set1_epi8(-1));  // 255 - grey
       }
       for (int v = 0; v < 4 && in4[v]; ++v) {
         unsigned char* out = px + 4 * (i + 16 * v);
@@ -163,10 +164,13 @@ VORN_AVX512 std::size_t Run(unsigned char* px, const unsigned char* mask, std::s
           _mm512_mask_storeu_epi8(out, alpha == AlphaMode::kKeep ? in4[v] & kColour : in4[v], a);
         } else {
           const __m512i d = _mm512_maskz_loadu_epi8(in4[v], out);
-          if constexpr (alpha == AlphaMode::kKeep) a = _mm512_mask_blend_epi8(kAlpha, a, d);
-          const __m512i h16 = _mm512_maskz_permutexvar_epi8(~kOdd, own, keep);
-          const __m512i lambdaPx = _mm512_permutexvar_epi8(own, lambda);
-          _mm512_mask_storeu_epi8(out, in4[v], BlendBlock(a, d, h16, lambdaPx, log16, highMask));
+          const __m512i h16 =
+              _mm512_sub_epi16(_mm512_set1_epi16(0x00FF),
+                               _mm512_shuffle_epi8(grey[v], _mm512_load_si512(ix.wordGrey)));
+          const __m512i lambdaPx = _mm512_maskz_permutexvar_epi8(~0ull, own, lambda);
+          _mm512_mask_storeu_epi8(
+              out, in4[v],
+              BlendBlock(a, alpha == AlphaMode::kKeep ? d : a, d, h16, lambdaPx, log16, highMask));
         }
       }
     }
