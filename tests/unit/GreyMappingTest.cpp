@@ -1,5 +1,6 @@
 // The six grey-mask functions against the per-pixel formulas written out
-// directly, over every grey level and every destination byte.
+// directly, over every grey level and every destination byte, on each
+// implementation this processor can run.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -7,6 +8,7 @@
 #include <functional>
 #include <string>
 
+#include "../../src/images/GreyMappingKernels.h"
 #include "vorn/GraphicsFunctions.h"
 
 namespace {
@@ -68,34 +70,74 @@ void Fill(wxImage& mask, BitmapA& dst, int width, int height) {
   }
 }
 
+const struct {
+  GreyPath path;
+  const char* name;
+} kPaths[] = {
+    {GreyPath::kPlain, "plain"}, {GreyPath::kAvx2, "AVX2"}, {GreyPath::kAvx512, "AVX-512"}};
+
+// The path is forced for the test's lifetime and chosen by processor after.
+struct ForcedPath {
+  explicit ForcedPath(GreyPath path) : forced(ForceGreyPath(path)) {}
+  ~ForcedPath() { ForceGreyPath(GreyPath::kAuto); }
+  bool forced;
+};
+
 TEST(GreyMapping, EveryFunctionMatchesItsFormulaForEveryGreyAndDestinationByte) {
   const Color colours[] = {Color(0, 0, 0),        Color(1, 1, 1),       Color(0.9, 0.4, 0.2),
                            Color(1, 0, 0.5),      Color(0.2, 0.6, 0.8), Color(1.0 / 3, 0.7, 0.0039),
                            Color(1.5, -0.25, 2.0)};
   const int sizes[][2] = {{256, 256}, {255, 261}, {7, 3}};
-  for (const Case& c : kCases) {
-    for (const Color& colour : colours) {
-      for (const auto& size : sizes) {
-        wxImage mask;
-        BitmapA dst;
-        Fill(mask, dst, size[0], size[1]);
-        BitmapA expected = dst;
-        const unsigned char* rgb = mask.GetData();
-        for (int i = 0; i < size[0] * size[1]; ++i)
-          Reference(&expected.data[4 * i], rgb + 3 * i, colour, c.which);
-        ASSERT_TRUE(c.fn(dst, mask, colour));
-        std::string firstDifference;
-        for (std::size_t i = 0; i < dst.data.size() && firstDifference.empty(); ++i)
-          if (dst.data[i] != expected.data[i])
-            firstDifference = "pixel " + std::to_string(i / 4) + " byte " + std::to_string(i % 4) +
-                              ": " + std::to_string(dst.data[i]) + " instead of " +
-                              std::to_string(expected.data[i]);
-        EXPECT_EQ(firstDifference, "")
-            << c.name << " colour (" << colour.r << ", " << colour.g << ", " << colour.b
-            << ") size " << size[0] << "x" << size[1];
+  int pathsRun = 0;
+  for (const auto& p : kPaths) {
+    ForcedPath forced(p.path);
+    if (!forced.forced) continue;
+    ++pathsRun;
+    for (const Case& c : kCases) {
+      for (const Color& colour : colours) {
+        for (const auto& size : sizes) {
+          wxImage mask;
+          BitmapA dst;
+          Fill(mask, dst, size[0], size[1]);
+          // Bytes past the pixels must stay as they are.
+          for (int i = 0; i < 67; ++i) dst.data.push_back(static_cast<unsigned char>(i * 13));
+          BitmapA expected = dst;
+          const unsigned char* rgb = mask.GetData();
+          for (int i = 0; i < size[0] * size[1]; ++i)
+            Reference(&expected.data[4 * i], rgb + 3 * i, colour, c.which);
+          ASSERT_TRUE(c.fn(dst, mask, colour));
+          std::string firstDifference;
+          for (std::size_t i = 0; i < dst.data.size() && firstDifference.empty(); ++i)
+            if (dst.data[i] != expected.data[i])
+              firstDifference = "pixel " + std::to_string(i / 4) + " byte " +
+                                std::to_string(i % 4) + ": " + std::to_string(dst.data[i]) +
+                                " instead of " + std::to_string(expected.data[i]);
+          EXPECT_EQ(firstDifference, "")
+              << p.name << " " << c.name << " colour (" << colour.r << ", " << colour.g << ", "
+              << colour.b << ") size " << size[0] << "x" << size[1];
+        }
       }
     }
   }
+  EXPECT_GE(pathsRun, 1);
+}
+
+// Forcing a path changes what later calls use; going back to automatic
+// picks the widest the processor has.
+TEST(GreyMapping, ForcedPathsApplyUntilAutomaticIsRestored) {
+  const GreyPath automatic = CurrentGreyPath();
+  for (const auto& p : kPaths) {
+    ForcedPath forced(p.path);
+    EXPECT_EQ(forced.forced, GreyPathAvailable(p.path)) << p.name;
+    if (forced.forced) {
+      EXPECT_EQ(CurrentGreyPath(), p.path) << p.name;
+    }
+  }
+  EXPECT_EQ(CurrentGreyPath(), automatic);
+  const GreyPath widest = GreyPathAvailable(GreyPath::kAvx512) ? GreyPath::kAvx512
+                          : GreyPathAvailable(GreyPath::kAvx2) ? GreyPath::kAvx2
+                                                               : GreyPath::kPlain;
+  EXPECT_EQ(automatic, widest);
 }
 
 }  // namespace
