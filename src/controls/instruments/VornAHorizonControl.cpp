@@ -158,5 +158,5 @@ void VornAHorizonControl::OnMouseMove(int x, int y) {
   if (m_bGrabB) SetBValue(x, y);
   if (m_bGrabC) SetCValue(x, y);
   Refresh(false);
-  if (m_pGroup) m_pGroup->ControlDrag(GetId(), this);
+  if (VornControlGroupValue* group = GetGroup()) group->ControlDrag(GetId(), this);
 }
