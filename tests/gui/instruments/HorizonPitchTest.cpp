@@ -12,8 +12,8 @@ TEST(HorizonPitch, OutsideItsRangeIsClampedToTheTrackEnds) {
   const struct {
     float in, pitch;
     wxPoint c;
-  } cases[] = {{0.25f, 0.25f, wxPoint(60, 40)},  {1e9f, 1.0f, wxPoint(60, 100)},
-               {-3.0f, 0.0f, wxPoint(60, 20)},    {NAN, 0.0f, wxPoint(60, 20)},
+  } cases[] = {{0.25f, 0.25f, wxPoint(60, 40)},    {1e9f, 1.0f, wxPoint(60, 100)},
+               {-3.0f, 0.0f, wxPoint(60, 20)},     {NAN, 0.0f, wxPoint(60, 20)},
                {INFINITY, 1.0f, wxPoint(60, 100)}, {0.5f, 0.5f, wxPoint(60, 60)}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.in);
