@@ -34,8 +34,12 @@ class VornAngleControl : public VornControl {
   // Stores the centre and radius, then SetValue(0, false).
   virtual bool Create(int cx, int cy, int radius, int x, int y, int w, int h, wxWindow* parent,
                       int id, VornControlGroupValue* group, long style = 0);
-  // The value group (hides the base's plain-group accessor).
-  virtual VornControlGroupValue* GetGroup() const { return m_pGroup; }
+  // The value group (hides the base's plain-group accessor) while still
+  // bound to it: destroying a group clears the base link only, so the typed
+  // copy must not outlive it.
+  virtual VornControlGroupValue* GetGroup() const {
+    return VornControl::GetGroup() ? m_pGroup : nullptr;
+  }
 
   // ---- the value
   // value + zero / 360 wrapped once becomes the turn; notify sends
@@ -152,7 +156,11 @@ class VornAngleClippers : public VornControl {
   virtual bool Create(const ColorA& frame, const ColorA& scale, const ColorA& marker, int span,
                       int x, int y, int w, int h, wxWindow* parent, int id,
                       VornControlGroupValue* group, long style = 0);
-  virtual VornControlGroupValue* GetGroup() const { return m_pGroup; }
+  // The value group while still bound to it: destroying a group clears the
+  // base link only, so the typed copy must not outlive it.
+  virtual VornControlGroupValue* GetGroup() const {
+    return VornControl::GetGroup() ? m_pGroup : nullptr;
+  }
 
   // Clamped to [0, 1]; notify reports a change of the travel position.
   void SetValue(double value, bool notify);
@@ -251,7 +259,11 @@ class VornAHorizonControl : public VornControl {
                       wxWindow* parent, int id, VornControlGroupValue* group, long style = 0);
   virtual bool Create(const BitmapA* ball, int cx, int cy, int radius, int x, int y, int w, int h,
                       wxWindow* parent, int id, VornControlGroupValue* group, long style = 0);
-  virtual VornControlGroupValue* GetGroup() const { return m_pGroup; }
+  // The value group while still bound to it: destroying a group clears the
+  // base link only, so the typed copy must not outlive it.
+  virtual VornControlGroupValue* GetGroup() const {
+    return VornControl::GetGroup() ? m_pGroup : nullptr;
+  }
 
   // Roll in turns; pitch 0..1 (0.5 level).
   void SetValue(float roll);

@@ -19,6 +19,9 @@ namespace {
 
 const char* const kParserTitle = "Image Script Parser";
 const char* const kFirstLineTitle = "Error";
+// Largest area a script may ask for: 64 MiB as RGBA, more than any control
+// or 4K backdrop needs, so a bad size line cannot take a gigabyte.
+constexpr long long kMaxScriptArea = 4096LL * 4096LL;
 
 // The error colour of every state a script can assign.
 struct ErrorColour {
@@ -97,6 +100,9 @@ bool ImageScriptParser::ReadFirstLine(std::istream& in) {
   if (m_width < 1 || m_height < 1 || m_width > kMaxBitmapSide || m_height > kMaxBitmapSide)
     return fail(Format("Image size [%i,%i] out of range: width and height must be 1 to %i", m_width,
                        m_height, kMaxBitmapSide));
+  if (static_cast<long long>(m_width) * m_height > kMaxScriptArea)
+    return fail(Format("Image size [%i,%i] too large: at most %lld pixels (4096 x 4096)", m_width,
+                       m_height, kMaxScriptArea));
   auto image = std::make_unique<BitmapA>();
   if (!Create(*image, m_width, m_height, 3))
     return fail(Format("Cannot create an image of size [%i,%i]", m_width, m_height));

@@ -274,6 +274,9 @@ TEST(ImageScript, FirstLineErrorsFailTheLoadWithTitleError) {
       {"size rgba 3 -1\n", "out of range"},
       {"size rgba 16385 1\n", "out of range"},
       {"size rgb 1 100000\n", "out of range"},
+      {"size rgba 16384 16384\n", "too large: at most 16777216 pixels"},
+      {"size rgb 4097 4096\n", "too large"},
+      {"size rgb 16384 1025\n", "too large"},
   };
   for (const auto& [script, message] : cases) {
     World w;
@@ -287,12 +290,16 @@ TEST(ImageScript, FirstLineErrorsFailTheLoadWithTitleError) {
     EXPECT_FALSE(w.Manager().LoadImagesCached("s.sts", cached)) << script;
     EXPECT_EQ(cached, nullptr);
   }
-  // The largest side is allowed.
+  // The largest side and the largest area are allowed.
   World w;
   w.Put("s.sts", "size rgb 16384 1\nclear base\nassign image\nfinish\n");
+  w.Put("area.sts", "size rgba 16384 1024\nclear base\nassign image\nfinish\n");
   BitmapA big;
   EXPECT_TRUE(w.Manager().LoadImage("s.sts", big));
   EXPECT_EQ(big.width, 16384);
+  BitmapA wide;
+  EXPECT_TRUE(w.Manager().LoadImage("area.sts", wide));
+  EXPECT_EQ(wide.width * wide.height, 4096 * 4096);
 }
 
 // ---- Loading by name ------------------------------------------------------

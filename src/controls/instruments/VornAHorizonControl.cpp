@@ -59,11 +59,13 @@ void VornAHorizonControl::SetValue(float roll) {
 }
 
 void VornAHorizonControl::SetCValue(float pitch) {
-  m_pitch = pitch;
+  // Pitch is 0..1 like a drag's: a value from far outside (or NaN) would put
+  // C beyond int's range.
+  m_pitch = pitch >= 0.0f ? std::min(pitch, 1.0f) : 0.0f;
   m_end1 = wxPoint(m_centreX + (m_centreY - m_a.y), m_centreY + (m_a.x - m_centreX));
   m_end2 = wxPoint(m_centreX - (m_centreY - m_a.y), m_centreY - (m_a.x - m_centreX));
-  m_c = wxPoint(static_cast<int>(m_end2.x + pitch * (m_end1.x - m_end2.x)),
-                static_cast<int>(m_end2.y + pitch * (m_end1.y - m_end2.y)));
+  m_c = wxPoint(static_cast<int>(m_end2.x + m_pitch * (m_end1.x - m_end2.x)),
+                static_cast<int>(m_end2.y + m_pitch * (m_end1.y - m_end2.y)));
 }
 
 void VornAHorizonControl::SetPitchValue(float pitch) {
@@ -158,5 +160,5 @@ void VornAHorizonControl::OnMouseMove(int x, int y) {
   if (m_bGrabB) SetBValue(x, y);
   if (m_bGrabC) SetCValue(x, y);
   Refresh(false);
-  if (m_pGroup) m_pGroup->ControlDrag(GetId(), this);
+  if (VornControlGroupValue* group = GetGroup()) group->ControlDrag(GetId(), this);
 }

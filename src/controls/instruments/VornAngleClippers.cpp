@@ -70,7 +70,7 @@ void VornAngleClippers::SetValue(double value, bool notify) {
   const bool changed = position != m_position;
   m_position = position;
   Refresh(false);
-  if (changed && notify) VornValueNotify::Dragged(*this, m_pGroup, value);
+  if (changed && notify) VornValueNotify::Dragged(*this, GetGroup(), value);
 }
 
 void VornAngleClippers::SetValue(int p) {
@@ -82,7 +82,7 @@ void VornAngleClippers::SetValue(int p) {
   const double value = m_length > 0 ? static_cast<double>(position) / m_length : 0.0;
   SetValue(value, false);
   m_position = position;  // exact, whatever the division rounded to
-  VornValueNotify::Dragged(*this, m_pGroup, value);
+  VornValueNotify::Dragged(*this, GetGroup(), value);
 }
 
 int VornAngleClippers::PointerCoordinate(int x, int y) const {
@@ -96,10 +96,10 @@ void VornAngleClippers::OnMouseButton() {
     int x, y;
     GetLastDownPos(x, y);
     m_lastP = PointerCoordinate(x, y);
-    VornValueNotify::Pressed(*this, m_pGroup);
+    VornValueNotify::Pressed(*this, GetGroup());
   } else if (IsMouseCaptive()) {
     ReleaseMouse();
-    VornValueNotify::Released(*this, m_pGroup, m_value);
+    VornValueNotify::Released(*this, GetGroup(), m_value);
   }
 }
 

@@ -47,7 +47,7 @@ void VornAngleControl::SetValue(float value, bool notify) {
   if (turn > 1.0f) turn -= 1.0f;
   m_turn = turn;
   PlaceKnob();
-  if (notify) VornValueNotify::Dragged(*this, m_pGroup, GetValue());
+  if (notify) VornValueNotify::Dragged(*this, GetGroup(), GetValue());
   Refresh(false);
 }
 
@@ -71,7 +71,7 @@ void VornAngleControl::SetValue(int x, int y) {
     m_knobX = static_cast<int>(m_centreX + m_radius * ux);
     m_knobY = static_cast<int>(m_centreY - m_radius * uy);
   }
-  VornValueNotify::Dragged(*this, m_pGroup, GetValue());
+  VornValueNotify::Dragged(*this, GetGroup(), GetValue());
 }
 
 float VornAngleControl::GetValue() const {
@@ -111,13 +111,13 @@ void VornAngleControl::OnMouseButton() {
 
 void VornAngleControl::BeginDrag() {
   CaptureMouse();
-  VornValueNotify::Pressed(*this, m_pGroup);
+  VornValueNotify::Pressed(*this, GetGroup());
   m_fineAnchor = m_turn;
 }
 
 void VornAngleControl::EndDrag() {
   ReleaseMouse();
-  VornValueNotify::Released(*this, m_pGroup, GetValue());
+  VornValueNotify::Released(*this, GetGroup(), GetValue());
 }
 
 void VornAngleControl::OnMouseMove(int x, int y) {
