@@ -23,3 +23,4 @@
 #include "vorn/VornValueNotify.h"
 #include "vorn/VornWindow.h"
 #include "vorn/VornSimpleScrollBar.h"
+#include "vorn/VornMonsterBox.h"
