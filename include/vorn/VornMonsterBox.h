@@ -73,7 +73,7 @@ class BitmapColumnHeading : public ColumnHeading {
 // works with.
 class ColumnEntry : public wxWindow {
  public:
-  ColumnEntry(wxWindow* panel, int id);
+  explicit ColumnEntry(wxWindow* panel);
   ~ColumnEntry() override;
 
   void SetColumn(MonsterColumn* column) { m_pColumn = column; }
@@ -91,11 +91,17 @@ class ColumnEntry : public wxWindow {
   // The rows scroll under the wheel wherever the pointer is in the box.
   void ForwardWheel(wxMouseEvent& event);
   void ForwardWheelOf(wxWindow* window);
+  // The id cell controls carry: the box's.
+  static int BoxId(wxWindow* panel);
 
   MonsterColumn* m_pColumn = nullptr;  // not owned
 
   wxDECLARE_EVENT_TABLE();
 };
+
+// Cell controls carry the box's id and join the group without an id (a
+// box may hold more cells than there are window ids), so their reports say
+// "the box" and FindRowColumn tells which cell.
 
 // A cell showing a line of text; a click reports the text control to the
 // group (ControlSelected on press, ControlUnSelected on release over it).
@@ -128,6 +134,7 @@ class CheckBoxColumnEntry : public ColumnEntry {
   bool GetOn() const { return m_pToggle->GetOn(); }
 
  private:
+  class Toggle;
   VornButtonToggle* m_pToggle = nullptr;  // child window
 };
 
@@ -252,10 +259,6 @@ class VornMonsterBox : public VornControl {
   // The heading strip and the resize grip, in box coordinates.
   wxRect HeadingRect() const;
   wxRect GripRect() const;
-
-  // Ids of the cell controls: unique in the process and far above the ids
-  // a host picks, so cells of several boxes may share one group.
-  static int NextCellId();
 
   void OnDraw(wxDC* dc) override;
 

@@ -1,10 +1,11 @@
 // A check-box cell: a toggle from the given image set, centred in the cell.
+#include "CellControl.h"
 #include "vorn/VornMonsterBox.h"
 
 CheckBoxColumnEntry::CheckBoxColumnEntry(wxPanel* panel, const VornwxBitmapCache* images,
                                          VornControlGroup* group, bool on)
-    : ColumnEntry(panel, wxID_STATIC) {
-  m_pToggle = new VornButtonToggle(images, 0, 0, this, VornMonsterBox::NextCellId(), group);
+    : ColumnEntry(panel) {
+  m_pToggle = new CellControl<VornButtonToggle>(group, images, 0, 0, this, BoxId(panel), nullptr);
   m_pToggle->SetOn(on);
   ForwardWheelOf(m_pToggle);
 }

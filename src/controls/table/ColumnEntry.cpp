@@ -14,8 +14,8 @@ wxBEGIN_EVENT_TABLE(ColumnEntry, wxWindow)
   EVT_MOUSEWHEEL(ColumnEntry::ForwardWheel)
 wxEND_EVENT_TABLE()
 
-ColumnEntry::ColumnEntry(wxWindow* panel, int id)
-    : wxWindow(panel, id, wxPoint(0, 0), wxSize(1, 1), wxBORDER_NONE | wxCLIP_CHILDREN) {}
+ColumnEntry::ColumnEntry(wxWindow* panel)
+    : wxWindow(panel, wxID_STATIC, wxPoint(0, 0), wxSize(1, 1), wxBORDER_NONE | wxCLIP_CHILDREN) {}
 
 ColumnEntry::~ColumnEntry() = default;
 
@@ -55,3 +55,8 @@ void ColumnEntry::ForwardWheel(wxMouseEvent& event) {
 void ColumnEntry::ForwardWheelOf(wxWindow* window) {
   window->Bind(wxEVT_MOUSEWHEEL, &ColumnEntry::ForwardWheel, this);
 }
+
+int ColumnEntry::BoxId(wxWindow* panel) {
+  return panel && panel->GetParent() ? panel->GetParent()->GetId() : wxID_STATIC;
+}
+

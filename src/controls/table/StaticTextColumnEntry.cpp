@@ -3,14 +3,15 @@
 #include <wx/dcclient.h>
 #include <wx/settings.h>
 
+#include "CellControl.h"
 #include "vorn/VornMonsterBox.h"
 
 // The text of a cell, as a control so that a click reaches the group.
 class StaticTextColumnEntry::Label : public VornControl {
  public:
-  Label(wxWindow* parent, int id, VornControlGroup* group, const VornString& text,
-        const wxColour& colour, const wxColour& background)
-      : VornControl(0, 0, 1, 1, parent, id, group), m_text(text), m_colour(colour) {
+  Label(wxWindow* parent, int id, const VornString& text, const wxColour& colour,
+        const wxColour& background)
+      : VornControl(0, 0, 1, 1, parent, id, nullptr), m_text(text), m_colour(colour) {
     SetBgColour(background);
     SetFont(wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT));
   }
@@ -48,9 +49,10 @@ StaticTextColumnEntry::StaticTextColumnEntry(wxPanel* panel, const VornString& t
                                              const wxColour& textColour,
                                              const wxColour& background, bool centred,
                                              VornControlGroup* group)
-    : ColumnEntry(panel, wxID_STATIC), m_bCentred(centred) {
+    : ColumnEntry(panel), m_bCentred(centred) {
   SetBackgroundColour(background);
-  m_pLabel = new Label(this, VornMonsterBox::NextCellId(), group, text, textColour, background);
+  m_pLabel =
+      new CellControl<Label>(group, this, BoxId(panel), text, textColour, background);
   ForwardWheelOf(m_pLabel);
 }
 

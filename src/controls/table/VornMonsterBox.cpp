@@ -17,7 +17,6 @@ namespace {
 constexpr int kFrameCorner = 8;
 constexpr int kHeadingCorner = 4;
 constexpr int kAlternateLightness = 110;  // every second row is a little lighter
-int g_nextCellId = 0x10000000;
 }  // namespace
 
 wxBEGIN_EVENT_TABLE(VornMonsterBox, VornControl)
@@ -36,10 +35,6 @@ VornMonsterBox::VornMonsterBox()
       m_cellText(222, 227, 234) {}
 
 VornMonsterBox::~VornMonsterBox() = default;
-
-int VornMonsterBox::NextCellId() {
-  return g_nextCellId++;
-}
 
 bool VornMonsterBox::Create(const wxBitmap* frame, const wxBitmap* heading,
                             const wxBitmap* spacer, int x, int y, int w, int h, VornString& name,
