@@ -361,11 +361,11 @@ void VornMonsterBox::OnDraw(wxDC* dc) {
 }
 
 void VornMonsterBox::DrawGrip(wxDC& dc) const {
-  // Three diagonal strokes in the bottom right corner of the grip.
+  // A triangle of 2 x 2 dots in the grip's bottom right corner.
   const wxRect g = GripRect();
-  dc.SetPen(wxPen(m_separator));
-  for (int i = 0; i < 3; ++i) {
-    const int d = 3 + 4 * i;
-    dc.DrawLine(g.GetRight() - d, g.GetBottom(), g.GetRight() + 1, g.GetBottom() - d - 1);
-  }
+  dc.SetPen(*wxTRANSPARENT_PEN);
+  dc.SetBrush(wxBrush(m_separator));
+  for (int row = 0; row < 3; ++row)
+    for (int col = 2 - row; col < 3; ++col)
+      dc.DrawRectangle(g.x + 1 + 4 * col, g.y + 1 + 4 * row, 2, 2);
 }
