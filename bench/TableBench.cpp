@@ -1,0 +1,101 @@
+// Building a 10,000-row, 3-column monster box (two text columns and a
+// check-box column, one real window per cell) against a report-mode
+// wxListCtrl holding the same rows, in time and in resident memory (read
+// from /proc/self/statm before and after each build).
+#include <benchmark/benchmark.h>
+#include <unistd.h>
+#include <wx/frame.h>
+#include <wx/listctrl.h>
+
+#include <cstdio>
+#include <memory>
+#include <string>
+
+#include "BenchSupport.h"
+#include "vorn/VornMonsterBox.h"
+
+namespace {
+
+constexpr int kRows = 10000;
+
+long ResidentKb() {
+  long size = 0, resident = 0;
+  if (FILE* f = std::fopen("/proc/self/statm", "r")) {
+    if (std::fscanf(f, "%ld %ld", &size, &resident) != 2) resident = 0;
+    std::fclose(f);
+  }
+  return resident * (sysconf(_SC_PAGESIZE) / 1024);
+}
+
+bool HaveDisplay(benchmark::State& state) {
+  if (wxTheApp) return true;
+  state.SkipWithError("needs a display (run under bench/run.sh)");
+  return false;
+}
+
+void ReportMemory(benchmark::State& state, long kb) {
+  state.counters["resident_kb"] = static_cast<double>(kb);
+  state.counters["rows"] = kRows;
+}
+
+void BM_MonsterBoxBuild(benchmark::State& state) {
+  if (!HaveDisplay(state)) return;
+  auto checks = std::make_unique<VornwxBitmapCache>();
+  checks->AssignImageOwn(VIT_OFF, new wxBitmap(12, 12));
+  checks->AssignImageOwn(VIT_ON, new wxBitmap(12, 12));
+  VornControlGroup group;
+  long kb = 0;
+  for (auto _ : state) {
+    wxFrame* frame = new wxFrame(nullptr, wxID_ANY, "bench");
+    const long before = ResidentKb();
+    auto* box = new VornMonsterBox;
+    VornString name = "bench";
+    box->Create(nullptr, nullptr, nullptr, 0, 0, 400, 300, name, frame, 1, &group);
+    box->AddColumn("Name", *wxWHITE, 150);
+    box->AddColumn("Value", *wxWHITE, 100);
+    box->AddColumn("On", *wxWHITE, 40);
+    for (int i = 0; i < kRows; ++i) {
+      box->AddEntry(0, "Item " + std::to_string(i), *wxWHITE, false);
+      box->AddEntry(1, std::to_string(i * 37), *wxWHITE, true);
+      box->AddEntry(2, checks.get(), i % 2 == 0);
+    }
+    kb = ResidentKb() - before;
+    state.PauseTiming();
+    frame->Destroy();
+    wxTheApp->ProcessIdle();
+    state.ResumeTiming();
+  }
+  ReportMemory(state, kb);
+}
+
+void BM_ListCtrlBuild(benchmark::State& state) {
+  if (!HaveDisplay(state)) return;
+  long kb = 0;
+  for (auto _ : state) {
+    wxFrame* frame = new wxFrame(nullptr, wxID_ANY, "bench");
+    const long before = ResidentKb();
+    auto* list = new wxListCtrl(frame, wxID_ANY, wxPoint(0, 0), wxSize(400, 300), wxLC_REPORT);
+    list->AppendColumn("Name", wxLIST_FORMAT_LEFT, 150);
+    list->AppendColumn("Value", wxLIST_FORMAT_CENTRE, 100);
+    list->AppendColumn("On", wxLIST_FORMAT_LEFT, 40);
+    for (int i = 0; i < kRows; ++i) {
+      const long row = list->InsertItem(i, "Item " + std::to_string(i));
+      list->SetItem(row, 1, std::to_string(i * 37));
+      list->SetItem(row, 2, i % 2 == 0 ? "x" : "");
+    }
+    kb = ResidentKb() - before;
+    state.PauseTiming();
+    frame->Destroy();
+    wxTheApp->ProcessIdle();
+    state.ResumeTiming();
+  }
+  ReportMemory(state, kb);
+}
+
+}  // namespace
+
+BENCHMARK(BM_MonsterBoxBuild)->Name("Tables/Build10k")->Unit(benchmark::kMillisecond)->Iterations(2);
+BENCHMARK(BM_ListCtrlBuild)
+    ->Name("Tables/Build10k/baseline")
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(2);
