@@ -232,4 +232,49 @@ TEST_F(MonsterBoxTest, DrawsHeadingSeparatorsAndGrip) {
   EXPECT_NE(box->RowBackground(0), box->RowBackground(1));
 }
 
+TEST_F(MonsterBoxTest, InsertedRowsPushTheOthersDownAndReshadeThem) {
+  Make();
+  AddRows(3);
+  int a = 0, b = 0, c = 0;
+  box->AddLineData(&a);
+  box->AddLineData(&c);
+  box->InsertLineData(1, &b);
+  box->InsertEntry(1, 0, "new", *wxWHITE, true);
+  box->InsertEntry(1, 1, checks.get(), true);
+  EXPECT_EQ(4, box->GetRowCount());
+  auto* inserted = static_cast<StaticTextColumnEntry*>(box->GetRowColumnEntry(1, 0));
+  EXPECT_EQ("new", inserted->GetText());
+  EXPECT_EQ(15, CellY(1, 0));
+  EXPECT_EQ(30, CellY(2, 0));  // the old row 1
+  EXPECT_EQ("row 1", static_cast<StaticTextColumnEntry*>(box->GetRowColumnEntry(2, 0))->GetText());
+  EXPECT_EQ(box->RowBackground(2), box->GetRowColumnEntry(2, 0)->GetBackgroundColour());
+  EXPECT_EQ(box->RowBackground(3), box->GetRowColumnEntry(3, 1)->GetBackgroundColour());
+  // A centred text sits in the middle of its cell, a plain one at its left.
+  VornControl* centred = inserted->GetControl();
+  EXPECT_GT(centred->GetPosX(), 0);
+  EXPECT_NEAR(120 / 2, centred->GetPosX() + centred->GetWidth() / 2, 1);
+  EXPECT_EQ(0, box->GetRowColumnEntry(0, 0)->GetControl()->GetPosX());
+  EXPECT_EQ(14, box->GetRowColumnEntry(0, 0)->GetControl()->GetHeight());
+  EXPECT_EQ(&b, box->GetLineData(1));
+  EXPECT_EQ(&c, box->GetLineData(2));
+  EXPECT_EQ(nullptr, box->GetRowColumn(4, 0));
+  EXPECT_EQ(nullptr, box->GetRowColumnEntry(0, 2));
+}
+
+TEST_F(MonsterBoxTest, TheBarsDownButtonScrollsTheCells) {
+  Make();
+  AddRows(20);
+  VornMomentBtn* down = box->GetScrollBar()->GetDownButton();
+  ASSERT_NE(nullptr, down);
+  Do(down, "enter down");
+  down->GetTimer()->Stop();
+  Do(down, "up leave");
+  // The first step: 20 / (bar height / fraction) of the 162 scrollable pixels.
+  const double fraction = 139.0 / 300.0;
+  const double v = 20.0 / (box->GetListHeight() / fraction);
+  EXPECT_DOUBLE_EQ(v, box->GetScrollBar()->GetSliderVal());
+  EXPECT_EQ(static_cast<int>(162 * v), box->GetScrollOffset());
+  EXPECT_EQ(-box->GetScrollOffset(), CellY(0, 0));
+}
+
 }  // namespace
