@@ -94,7 +94,10 @@ void BM_ListCtrlBuild(benchmark::State& state) {
 
 }  // namespace
 
-BENCHMARK(BM_MonsterBoxBuild)->Name("Tables/Build10k")->Unit(benchmark::kMillisecond)->Iterations(2);
+BENCHMARK(BM_MonsterBoxBuild)
+    ->Name("Tables/Build10k")
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(2);
 BENCHMARK(BM_ListCtrlBuild)
     ->Name("Tables/Build10k/baseline")
     ->Unit(benchmark::kMillisecond)

@@ -219,7 +219,8 @@ void TableMasks(Writer& out) {
   RaisedFace(out, "table_heading", 32, 22, 3);
   out("table_spacer_dot.png", Fill(7, 14, Circle(3.5f, 7, 1.4f)));
   SunkenWell(out, "table_check", 13, 13, 3);
-  const Field tick = Union(Segment(3.2f, 6.8f, 5.4f, 9.2f, 0.9f), Segment(5.4f, 9.2f, 9.8f, 3.6f, 0.9f));
+  const Field tick =
+      Union(Segment(3.2f, 6.8f, 5.4f, 9.2f, 0.9f), Segment(5.4f, 9.2f, 9.8f, 3.6f, 0.9f));
   out("table_check_tick.png", Fill(13, 13, tick));
   RaisedFace(out, "table_button", 30, 14, 4);
   const Field minus = Segment(11, 7, 19, 7, 0.9f);

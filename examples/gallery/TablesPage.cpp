@@ -39,7 +39,8 @@ class TablesPage : public GalleryPage {
     m_pBox->AddColumn(Utf8(ctx.Msg("On")), title, font, 50);
     m_pChecks = ctx.Images("table_check.sts");
     for (int i = 0; i < kRows; ++i) AddRow(i);
-    m_pBox->AddButton(ctx.Images("table_button_plus.sts"), kAdd, Utf8(ctx.Msg("Add a row")), &m_group);
+    m_pBox->AddButton(ctx.Images("table_button_plus.sts"), kAdd, Utf8(ctx.Msg("Add a row")),
+                      &m_group);
     m_pBox->AddButton(ctx.Images("table_button_minus.sts"), kRemove,
                       Utf8(ctx.Msg("Delete the last row")), &m_group);
     m_group.SetName(kBox, ctx.Msg("Table"));
@@ -91,10 +92,10 @@ class TablesPage : public GalleryPage {
              36, "small", "text_dim");
     const wxRect r = ReadoutRect();
     DrawText(dc, m_ctx.Msg("Cell last clicked"), r.x, r.y, "small", "text_dim");
-    const wxString cell =
-        m_lastRow < 0 ? wxString("-")
-                      : wxString::Format("%s %d, %s %d", m_ctx.Msg("Row"), m_lastRow + 1,
-                                         m_ctx.Msg("Column"), m_lastColumn + 1);
+    const wxString cell = m_lastRow < 0
+                              ? wxString("-")
+                              : wxString::Format("%s %d, %s %d", m_ctx.Msg("Row"), m_lastRow + 1,
+                                                 m_ctx.Msg("Column"), m_lastColumn + 1);
     DrawText(dc, cell, r.x, r.y + 18, "label", "text");
   }
 

@@ -293,9 +293,9 @@ class VornMonsterBox : public VornControl {
   wxColour m_cellBackground;
   wxColour m_separator;
   wxColour m_cellText;
-  const wxBitmap* m_pFrame = nullptr;    // not owned
-  const wxBitmap* m_pHeading = nullptr;  // not owned
-  const wxBitmap* m_pSpacer = nullptr;   // not owned
+  const wxBitmap* m_pFrame = nullptr;         // not owned
+  const wxBitmap* m_pHeading = nullptr;       // not owned
+  const wxBitmap* m_pSpacer = nullptr;        // not owned
   const wxBitmap* m_pScrollHandle = nullptr;  // not owned
   wxPanel* m_pPanel = nullptr;                // child window
   MonsterScrollBar* m_pScrollBar = nullptr;   // child window, made on first need

@@ -8,13 +8,11 @@ namespace {
 constexpr int kRowLineLightness = 85;  // the line under a row, darker than the cell
 }
 
-wxBEGIN_EVENT_TABLE(ColumnEntry, wxWindow)
-  EVT_PAINT(ColumnEntry::OnPaint)
-  EVT_ERASE_BACKGROUND(ColumnEntry::OnEraseBackground)
-  EVT_MOUSEWHEEL(ColumnEntry::ForwardWheel)
-wxEND_EVENT_TABLE()
+wxBEGIN_EVENT_TABLE(ColumnEntry, wxWindow) EVT_PAINT(ColumnEntry::OnPaint)
+    EVT_ERASE_BACKGROUND(ColumnEntry::OnEraseBackground) EVT_MOUSEWHEEL(ColumnEntry::ForwardWheel)
+        wxEND_EVENT_TABLE()
 
-ColumnEntry::ColumnEntry(wxWindow* panel)
+            ColumnEntry::ColumnEntry(wxWindow* panel)
     : wxWindow(panel, wxID_STATIC, wxPoint(0, 0), wxSize(1, 1), wxBORDER_NONE | wxCLIP_CHILDREN) {}
 
 ColumnEntry::~ColumnEntry() = default;
@@ -59,4 +57,3 @@ void ColumnEntry::ForwardWheelOf(wxWindow* window) {
 int ColumnEntry::BoxId(wxWindow* panel) {
   return panel && panel->GetParent() ? panel->GetParent()->GetId() : wxID_STATIC;
 }
-

@@ -13,9 +13,9 @@ constexpr const char* kIndexInRange = "index < entries.size()";
 // Layout of the box, in box pixels.
 constexpr int kPanelX = 12;
 constexpr int kPanelY = 40;
-constexpr int kPanelWidthLess = 50;   // panel width = box width - 50
-constexpr int kListHeightLess = 62;   // list height = box height - 62
-constexpr int kFitHeightLess = 61;    // rows fit while content <= height - 61
+constexpr int kPanelWidthLess = 50;  // panel width = box width - 50
+constexpr int kListHeightLess = 62;  // list height = box height - 62
+constexpr int kFitHeightLess = 61;   // rows fit while content <= height - 61
 constexpr int kBarWidth = 11;
 constexpr int kButtonX = 38;          // first button: spacer width + 38
 constexpr int kButtonBelowList = 45;  // buttons at list height + 45

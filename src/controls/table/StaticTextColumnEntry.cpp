@@ -46,13 +46,11 @@ class StaticTextColumnEntry::Label : public VornControl {
 };
 
 StaticTextColumnEntry::StaticTextColumnEntry(wxPanel* panel, const VornString& text,
-                                             const wxColour& textColour,
-                                             const wxColour& background, bool centred,
-                                             VornControlGroup* group)
+                                             const wxColour& textColour, const wxColour& background,
+                                             bool centred, VornControlGroup* group)
     : ColumnEntry(panel), m_bCentred(centred) {
   SetBackgroundColour(background);
-  m_pLabel =
-      new CellControl<Label>(group, this, BoxId(panel), text, textColour, background);
+  m_pLabel = new CellControl<Label>(group, this, BoxId(panel), text, textColour, background);
   ForwardWheelOf(m_pLabel);
 }
 

@@ -19,15 +19,12 @@ constexpr int kHeadingCorner = 4;
 constexpr int kAlternateLightness = 110;  // every second row is a little lighter
 }  // namespace
 
-wxBEGIN_EVENT_TABLE(VornMonsterBox, VornControl)
-  EVT_LEFT_DOWN(VornMonsterBox::LocalLeftDown)
-  EVT_LEFT_UP(VornMonsterBox::LocalLeftUp)
-  EVT_LEFT_DCLICK(VornMonsterBox::LocalLeftDClick)
-  EVT_MOTION(VornMonsterBox::LocalMotion)
-  EVT_MOUSEWHEEL(VornMonsterBox::OnMouseWheel)
-wxEND_EVENT_TABLE()
+wxBEGIN_EVENT_TABLE(VornMonsterBox, VornControl) EVT_LEFT_DOWN(VornMonsterBox::LocalLeftDown)
+    EVT_LEFT_UP(VornMonsterBox::LocalLeftUp) EVT_LEFT_DCLICK(VornMonsterBox::LocalLeftDClick)
+        EVT_MOTION(VornMonsterBox::LocalMotion) EVT_MOUSEWHEEL(VornMonsterBox::OnMouseWheel)
+            wxEND_EVENT_TABLE()
 
-VornMonsterBox::VornMonsterBox()
+                VornMonsterBox::VornMonsterBox()
     : m_scrollOutline(122, 134, 150),
       m_scrollBackground(29, 33, 40),
       m_cellBackground(29, 33, 40),
@@ -36,9 +33,9 @@ VornMonsterBox::VornMonsterBox()
 
 VornMonsterBox::~VornMonsterBox() = default;
 
-bool VornMonsterBox::Create(const wxBitmap* frame, const wxBitmap* heading,
-                            const wxBitmap* spacer, int x, int y, int w, int h, VornString& name,
-                            wxWindow* parent, int id, VornControlGroup* group, long style) {
+bool VornMonsterBox::Create(const wxBitmap* frame, const wxBitmap* heading, const wxBitmap* spacer,
+                            int x, int y, int w, int h, VornString& name, wxWindow* parent, int id,
+                            VornControlGroup* group, long style) {
   m_pFrame = frame;
   m_pHeading = heading;
   m_pSpacer = spacer;
@@ -48,9 +45,9 @@ bool VornMonsterBox::Create(const wxBitmap* frame, const wxBitmap* heading,
       VornControl::Create(x, y, w, h, parent, id, group, style & ~kMonsterBoxResizable);
   m_listHeight = h - kListHeightLess;
   m_backBuffer = wxBitmap(std::max(1, w), std::max(1, h));
-  m_pPanel = new wxPanel(this, wxID_ANY, wxPoint(kPanelX, kPanelY),
-                         wxSize(w - kPanelWidthLess, m_listHeight),
-                         wxTAB_TRAVERSAL | wxBORDER_NONE);
+  m_pPanel =
+      new wxPanel(this, wxID_ANY, wxPoint(kPanelX, kPanelY),
+                  wxSize(w - kPanelWidthLess, m_listHeight), wxTAB_TRAVERSAL | wxBORDER_NONE);
   m_pPanel->SetBackgroundColour(m_cellBackground);
   m_pPanel->Bind(wxEVT_MOUSEWHEEL, &VornMonsterBox::OnMouseWheel, this);
   return created;
@@ -62,8 +59,8 @@ void VornMonsterBox::AddColumn(const VornString& title, const wxColour& colour, 
   AddHeadedColumn(std::make_unique<TextColumnHeading>(title, colour), width);
 }
 
-void VornMonsterBox::AddColumn(const VornString& title, const wxColour& colour,
-                               const wxFont& font, int width, bool) {
+void VornMonsterBox::AddColumn(const VornString& title, const wxColour& colour, const wxFont& font,
+                               int width, bool) {
   AddHeadedColumn(std::make_unique<TextColumnHeading>(title, colour, font), width);
 }
 
@@ -98,8 +95,9 @@ void VornMonsterBox::AddEntry(int column, const VornwxBitmapCache* images, bool 
 void VornMonsterBox::InsertEntry(int row, int column, const VornString& text,
                                  const wxColour& colour, bool centred) {
   if (!ColumnOk(column)) return;
-  PutEntry(row, column, new StaticTextColumnEntry(m_pPanel, text, colour, m_cellBackground,
-                                                  centred, m_pControlGroup));
+  PutEntry(row, column,
+           new StaticTextColumnEntry(m_pPanel, text, colour, m_cellBackground, centred,
+                                     m_pControlGroup));
 }
 
 void VornMonsterBox::InsertEntry(int row, int column, const VornwxBitmapCache* images, bool on) {
@@ -183,7 +181,8 @@ int VornMonsterBox::SpacerWidth() const {
 VornPushButton* VornMonsterBox::AddButton(const VornwxBitmapCache* images, int id,
                                           const VornString& tipText, VornControlGroup* group) {
   int x = SpacerWidth() + kButtonX;
-  if (!m_buttons.empty()) x = m_buttons.back()->GetPosX() + m_buttons.back()->GetWidth() + SpacerWidth();
+  if (!m_buttons.empty())
+    x = m_buttons.back()->GetPosX() + m_buttons.back()->GetWidth() + SpacerWidth();
   auto* button = new VornPushButton(images, x, m_listHeight + kButtonBelowList, this, id, group, 0);
   button->Show();
   button->SetToolTip(tipText);
@@ -198,11 +197,10 @@ void VornMonsterBox::CheckForScroll() {
   const int content = ContentHeight();
   if (content > GetHeight() - kFitHeightLess) {
     if (!m_pScrollBar) {
-      m_pScrollBar = new MonsterScrollBar(m_pScrollHandle, m_pScrollHandle, m_pScrollHandle,
-                                          m_scrollOutline, m_scrollBackground,
-                                          CtoWxC(m_scrollHover),
-                                          GetWidth() - kBarWidth, 0, m_listHeight, this, -1,
-                                          nullptr, m_bResizable);
+      m_pScrollBar =
+          new MonsterScrollBar(m_pScrollHandle, m_pScrollHandle, m_pScrollHandle, m_scrollOutline,
+                               m_scrollBackground, CtoWxC(m_scrollHover), GetWidth() - kBarWidth, 0,
+                               m_listHeight, this, -1, nullptr, m_bResizable);
       m_pScrollBar->SetBox(this);
       m_pScrollBar->Hide();
     }

@@ -35,9 +35,7 @@ class MonsterBoxTest : public ::testing::Test {
       box->AddEntry(1, checks.get(), false);
     }
   }
-  int CellY(int row, int column) {
-    return box->GetRowColumnEntry(row, column)->GetPosition().y;
-  }
+  int CellY(int row, int column) { return box->GetRowColumnEntry(row, column)->GetPosition().y; }
   void Wheel(wxWindow* target, int rotation) {
     wxMouseEvent event = MakeMouseEvent(target, wxEVT_MOUSEWHEEL, 4, 4);
     event.m_wheelRotation = rotation;
