@@ -229,6 +229,296 @@ void TableMasks(Writer& out) {
   out("table_button_minus.png", Fill(30, 14, minus));
 }
 
+// ---- instruments -------------------------------------------------------------
+
+Field UnionAll(const std::vector<Field>& parts) {
+  return [parts](float x, float y) {
+    float d = 1e9f;
+    for (const Field& f : parts) d = std::min(d, f(x, y));
+    return d;
+  };
+}
+
+// Capital letters of the compass as strokes in a unit box (y down).
+std::vector<std::vector<std::pair<float, float>>> GlyphStrokes(char c) {
+  switch (c) {
+    case 'N':
+      return {{{0, 1}, {0, 0}, {1, 1}, {1, 0}}};
+    case 'E':
+      return {{{1, 0}, {0, 0}, {0, 1}, {1, 1}}, {{0, 0.5f}, {0.8f, 0.5f}}};
+    case 'W':
+      return {{{0, 0}, {0.25f, 1}, {0.5f, 0.35f}, {0.75f, 1}, {1, 0}}};
+    case 'S':
+      return {{{0.95f, 0.15f},
+               {0.75f, 0},
+               {0.25f, 0},
+               {0.03f, 0.15f},
+               {0.03f, 0.35f},
+               {0.25f, 0.48f},
+               {0.75f, 0.52f},
+               {0.97f, 0.65f},
+               {0.97f, 0.85f},
+               {0.75f, 1},
+               {0.25f, 1},
+               {0.05f, 0.85f}}};
+    default:
+      return {};
+  }
+}
+
+// text centred at cx with its top at top, letters h high.
+void AddText(std::vector<Field>& parts, const std::string& text, float cx, float top, float h,
+             float hw) {
+  auto width = [&](char c) { return (c == 'W' ? 1.0f : 0.68f) * h; };
+  const float gap = h * 0.3f;
+  float total = -gap;
+  for (char c : text) total += width(c) + gap;
+  float x = cx - total / 2;
+  for (char c : text) {
+    const float w = width(c);
+    for (const auto& line : GlyphStrokes(c))
+      for (std::size_t i = 1; i < line.size(); ++i)
+        parts.push_back(Segment(x + line[i - 1].first * w, top + line[i - 1].second * h,
+                                x + line[i].first * w, top + line[i].second * h, hw));
+    x += w + gap;
+  }
+}
+
+// A radial tick at turn t (clockwise from the top) between radii r0 and r1.
+Field Tick(float cx, float cy, float t, float r0, float r1, float hw) {
+  const float a = t * 2 * 3.14159265f, sx = std::sin(a), sy = -std::cos(a);
+  return Segment(cx + sx * r0, cy + sy * r0, cx + sx * r1, cy + sy * r1, hw);
+}
+
+// The compass rose strip (3210 pixels a turn, repeating), its frame and the
+// lubber mark; the clock face and its hand; the dial face; the horizon ball
+// with its pitch ladder.
+void InstrumentMasks(Writer& out) {
+  {
+    const int period = 3210, h = 44;
+    const float perDegree = period / 360.f;
+    std::vector<Field> ticks, cardinals, north, minor;
+    for (int d = 0; d <= 360; d += 5) {
+      const float x = d * perDegree, len = d % 90 == 0 ? 14.f : d % 15 == 0 ? 9.f : 5.f;
+      ticks.push_back(Segment(x, h - 3 - len, x, h - 3.f, d % 15 == 0 ? 0.9f : 0.6f));
+    }
+    // A sixteen-point rose, so that a 320-pixel view always shows a name.
+    const char* names[] = {"N",   "NNE", "NE",  "ENE", "E",   "ESE", "SE",  "SSE", "S",
+                           "SSW", "SW",  "WSW", "W",   "WNW", "NW",  "NNW", "N"};
+    for (int i = 0; i <= 16; ++i) {
+      const float x = i * 22.5f * perDegree;
+      if (i % 4 == 0)
+        AddText(i % 16 == 0 ? north : cardinals, names[i], x, 6, 14, 1.1f);
+      else if (i % 2 == 0)
+        AddText(minor, names[i], x, 10, 9, 0.75f);
+      else
+        AddText(minor, names[i], x, 12, 7, 0.6f);
+    }
+    const Field solid = [](float, float) { return -1.f; };
+    out("compass_solid.png", Fill(period, h, solid));
+    out("compass_ticks.png", Fill(period, h, UnionAll(ticks)));
+    out("compass_cardinal.png", Fill(period, h, UnionAll(cardinals)));
+    out("compass_north.png", Fill(period, h, UnionAll(north)));
+    out("compass_intercardinal.png", Fill(period, h, UnionAll(minor)));
+
+    const int w = 320;
+    const Mask rim =
+        Minus(Fill(w, h, RoundRect(0, 0, w, h, 4)), Fill(w, h, RoundRect(1, 1, w - 1, h - 1, 3)));
+    // The strip fades into the panel towards both ends.
+    const Mask fade = Combine(Fill(w, h, RoundRect(0, 0, w, h, 4)), [&](int x, int, float v) {
+      const float edge = std::min(x + 0.5f, w - x - 0.5f);
+      return v * (1.f - edge / 56.f);
+    });
+    out("compass_rim.png", rim);
+    out("compass_frame.png",
+        Combine(fade, [&](int x, int y, float v) { return v + rim.get(x, y); }));
+    out("compass_lubber.png",
+        Fill(w, h, Union(Triangle(160, 5.5f, 6, 9, 1), Segment(160, 9, 160, h - 2.f, 0.6f))));
+  }
+  {
+    // Clock face, 120 x 120, and the hand it turns.
+    const float c = 60;
+    const Mask shape = Fill(120, 120, Circle(c, c, 58));
+    const Mask body = Fill(120, 120, Circle(c, c, 56));
+    out("clock_shape.png", shape);
+    out("clock_rim.png", Minus(shape, body));
+    out("clock_body.png", body);
+    out("clock_sheen.png", TopFade(body, 60, 0.1f));
+    std::vector<Field> hours, minutes;
+    for (int i = 1; i < 12; ++i)
+      hours.push_back(Tick(c, c, i / 12.f, i % 3 == 0 ? 40.f : 44.f, 51, i % 3 == 0 ? 1.6f : 1.1f));
+    for (int i = 0; i < 60; ++i)
+      if (i % 5) minutes.push_back(Tick(c, c, i / 60.f, 49, 51, 0.5f));
+    out("clock_hours.png", Fill(120, 120, UnionAll(hours)));
+    out("clock_minutes.png", Fill(120, 120, UnionAll(minutes)));
+    out("clock_twelve.png", Fill(120, 120, Tick(c, c, 0, 38, 51, 2.0f)));
+    out("clock_hand.png",
+        Fill(120, 120, Union(Segment(c, c + 8, c, c - 34, 2.2f), Circle(c, c, 4.5f))));
+    out("clock_hub.png", Fill(120, 120, Circle(c, c, 2)));
+  }
+  {
+    // Dial face, 120 x 120: 36 ticks outside the knob's circle (radius 40).
+    const float c = 60;
+    const Mask shape = Fill(120, 120, Circle(c, c, 58));
+    const Mask body = Fill(120, 120, Circle(c, c, 56));
+    out("dial_shape.png", shape);
+    out("dial_rim.png", Minus(shape, body));
+    out("dial_body.png", body);
+    std::vector<Field> ticks;
+    for (int i = 0; i < 36; ++i)
+      if (i % 9) ticks.push_back(Tick(c, c, i / 36.f, 47, 52, 0.7f));
+    std::vector<Field> quarters;
+    for (int i = 0; i < 4; ++i) quarters.push_back(Tick(c, c, i / 4.f, 45, 53, 1.4f));
+    out("dial_ticks.png", Fill(120, 120, UnionAll(ticks)));
+    out("dial_quarters.png", Fill(120, 120, UnionAll(quarters)));
+    out("dial_track.png", Fill(120, 120, [&](float x, float y) {
+          return std::fabs(std::hypot(x - c, y - c) - 40) - 0.6f;
+        }));
+  }
+  {
+    // Horizon ball, 260 x 260, the horizon across the middle.
+    const int s = 260;
+    const float mid = s / 2.f;
+    out("horizon_solid.png", Fill(s, s, [](float, float) { return -1.f; }));
+    out("horizon_sky.png", Fill(s, s, RoundRect(-1, -1, s + 1, mid, 0)));
+    out("horizon_ground.png", Fill(s, s, RoundRect(-1, mid, s + 1, s + 1, 0)));
+    out("horizon_glow.png",
+        Combine(Fill(s, s, RoundRect(-1, -1, s + 1, mid, 0)), [&](int, int y, float v) {
+          return v * std::max(0.f, 1.f - (mid - y) / 70.f) * 0.8f;
+        }));
+    out("horizon_line.png", Fill(s, s, RoundRect(-1, mid - 1, s + 1, mid + 1, 0)));
+    std::vector<Field> ladder;
+    for (int step = 1; step <= 4; ++step)
+      for (int side : {-1, 1}) {
+        const float y = mid + side * step * 15.f, half = step % 2 ? 9.f : 17.f;
+        ladder.push_back(Segment(mid - half, y, mid + half, y, 0.6f));
+      }
+    out("horizon_ladder.png", Fill(s, s, UnionAll(ladder)));
+  }
+}
+
+// The mask turned about its diagonal: a vertical control from a horizontal
+// one.
+Mask Transposed(const Mask& m) {
+  Mask t(m.h, m.w);
+  for (int y = 0; y < m.h; ++y)
+    for (int x = 0; x < m.w; ++x) t.at(y, x) = m.get(x, y);
+  return t;
+}
+
+// Sliders and the thumb wheel.
+//   slider_{left,mid,right}_*  an 8-pixel pill track in three pieces
+//   slider_knob_*              a 16 x 16 round thumb with an accent dot
+//   fader_track_*, fader_cap_* a 160 x 14 groove with ticks, a 12 x 22 cap
+//   thumbwheel_*               a 96 x 22 wheel (and _v, 22 x 96): frame with
+//                              a hole, the window's cylinder shading, and a
+//                              ridged strip repeating every 6 pixels
+void ValueControlMasks(Writer& out) {
+  {
+    const int h = 8;
+    struct Piece {
+      const char* name;
+      int w;
+      float x0, x1;  // the pill's extent in the piece's coordinates
+    };
+    for (const Piece& p : {Piece{"left", 6, 0, 40}, Piece{"mid", 4, -20, 24},
+                           Piece{"right", 6, -34, 6}}) {
+      const Mask shape = Fill(p.w, h, RoundRect(p.x0, 0, p.x1, h, 4));
+      const Mask well = Fill(p.w, h, RoundRect(p.x0 + 1, 1, p.x1 - 1, h - 1, 3));
+      const std::string n = std::string("slider_") + p.name;
+      out(n + "_border.png", Minus(shape, well));
+      out(n + "_well.png", well);
+      out(n + "_inset.png", TopFade(well, 3, 0.5f));
+    }
+    const int k = 16;
+    const Mask shape = Fill(k, k, Circle(8, 8, 8));
+    const Mask body = Fill(k, k, Circle(8, 8, 7));
+    out("slider_knob_border.png", Minus(shape, body));
+    out("slider_knob_body.png", body);
+    out("slider_knob_sheen.png", TopFade(body, 9, 0.18f));
+    out("slider_knob_shade.png", Edge(body, 1, 0.5f));
+    out("slider_knob_dot.png", Fill(k, k, Circle(8, 8, 2.2f)));
+  }
+  {
+    const int w = 160, h = 14;
+    const Mask groove = Fill(w, h, RoundRect(2, 5, w - 2, 9, 2));
+    out("fader_track_groove.png", groove);
+    out("fader_track_lip.png", Edge(groove, 1, 0.4f));
+    // Ticks under the thumb's middle at every tenth of its travel (the cap
+    // is 12 wide: the middle runs from 6 to w - 6).
+    Field ticks = Segment(-10, -10, -10, -9, 0.1f);
+    for (int i = 0; i <= 10; ++i) {
+      const float x = 6 + (w - 12) * i / 10.f;
+      const float len = i % 5 == 0 ? 3.5f : 2.f;
+      ticks = Union(ticks, Union(Segment(x, 0.5f, x, len, 0.5f),
+                                 Segment(x, h - len, x, h - 0.5f, 0.5f)));
+    }
+    out("fader_track_ticks.png", Fill(w, h, ticks));
+    const int cw = 12, ch = 22;
+    const Mask cap = Fill(cw, ch, RoundRect(0, 0, cw, ch, 2.5f));
+    const Mask body = Fill(cw, ch, RoundRect(1, 1, cw - 1, ch - 1, 1.5f));
+    out("fader_cap_border.png", Minus(cap, body));
+    out("fader_cap_body.png", body);
+    out("fader_cap_sheen.png", TopFade(body, 10, 0.18f));
+    out("fader_cap_line.png", Fill(cw, ch, RoundRect(2, 10, cw - 2, 12, 0.5f)));
+  }
+  {
+    const int w = 96, h = 22, period = 6;
+    const Mask outer = Fill(w, h, RoundRect(0, 0, w, h, 5));
+    const Mask body = Fill(w, h, RoundRect(1, 1, w - 1, h - 1, 4));
+    const Mask hole = Fill(w, h, RoundRect(4, 3, w - 4, h - 3, 2));
+    const Mask lip = Minus(Fill(w, h, RoundRect(3, 2, w - 3, h - 2, 3)), hole);
+    // The window: a cylinder lit from the front, dark towards its rims.
+    const float pi = 3.14159265f;
+    const Mask shading = Combine(hole, [&](int x, int, float v) {
+      const float u = Clamp01((x + 0.5f - 4) / (w - 8));
+      return v * (0.25f + 0.75f * std::sin(pi * u));
+    });
+    // The strip: a light ridge and a dark groove every period, so any
+    // window onto it repeats after one period.
+    Mask ridge(w + period, h), groove(w + period, h);
+    for (int y = 0; y < h; ++y)
+      for (int x = 0; x < w + period; ++x) {
+        const int phase = x % period;
+        ridge.at(x, y) = phase == 1 ? 1.f : phase == 0 || phase == 2 ? 0.35f : 0.f;
+        groove.at(x, y) = phase == 4 ? 1.f : phase == 5 ? 0.4f : 0.f;
+      }
+    const struct {
+      const char* name;
+      Mask m;
+    } layers[] = {
+        {"frame_shape", Minus(outer, hole)},  {"frame_border", Minus(outer, body)},
+        {"frame_body", Minus(body, hole)},    {"frame_sheen", TopFade(Minus(body, hole), 8, 0.15f)},
+        {"frame_lip", lip},                   {"window", shading},
+        {"strip_ridge", ridge},               {"strip_groove", groove},
+    };
+    for (const auto& l : layers) {
+      out(std::string("thumbwheel_") + l.name + ".png", l.m);
+      out(std::string("thumbwheel_") + l.name + "_v.png", Transposed(l.m));
+    }
+  }
+}
+
+// The edits' other widgets: a 240 x 96 multi-line box and a 96 x 22
+// read-only value box, both sunken like the single-line field.
+void EditWidgetMasks(Writer& out) {
+  SunkenWell(out, "editbox", 240, 96, 4);
+  SunkenWell(out, "editvalue", 96, 22, 3);
+}
+
+// List button: the push button's face with three list lines and a small
+// chevron under them.
+void ListButtonMasks(Writer& out) {
+  auto glyph = [](float dy) {
+    const Field lines = Union(
+        Segment(10, 10 + dy, 22, 10 + dy, 0.8f),
+        Union(Segment(10, 14 + dy, 22, 14 + dy, 0.8f), Segment(10, 18 + dy, 22, 18 + dy, 0.8f)));
+    return Union(lines, Chevron(16, 23 + dy, 3, 2.5f, 1, 0.8f));
+  };
+  out("listbutton_glyph.png", Fill(32, 32, glyph(0)));
+  out("listbutton_glyph_down.png", Fill(32, 32, glyph(1)));
+}
+
 void Generate(Writer& out) {
   // Push button: a 32 x 32 tool face with a plus glyph.
   RaisedFace(out, "push", 32, 32, 6);
@@ -338,6 +628,10 @@ void Generate(Writer& out) {
   out("treefunc_glyph_down.png", Fill(18, 18, [&](float x, float y) { return dots(x, y - 1); }));
   ScrollThumbMasks(out);
   TableMasks(out);
+  InstrumentMasks(out);
+  ValueControlMasks(out);
+  EditWidgetMasks(out);
+  ListButtonMasks(out);
 }
 
 }  // namespace

@@ -7,20 +7,24 @@
 //
 // Without SCRIPT every .sts and .lbs script the skin offers for the chosen
 // platform and language is rendered. The exit status is 0 when every script
-// rendered without a warning, 1 when any did not, 2 for bad usage.
+// rendered without a warning, 1 when any did not, 2 for bad usage. With
+// --watch the sheets are rendered again whenever a file of the skin changes.
 #include <wx/dcmemory.h>
 #include <wx/image.h>
 #include <wx/wx.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <iostream>
+#include <map>
 #include <memory>
 #include <set>
 #include <sstream>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "SkinCheck.h"
@@ -55,6 +59,10 @@ const char kUsage[] =
     "                        name and the skin lacks, pictures of the wrong size and\n"
     "                        scripts that do not parse; exit 1 on any finding\n"
     "  --messages NAME       a message file for --check, repeatable (default: messages.txt)\n"
+    "  -w, --watch           keep running; render again whenever a script, picture or\n"
+    "                        database of the skin changes (a changed script alone renders\n"
+    "                        only that script); stop with Ctrl-C\n"
+    "  --watch-rounds N      with --watch: stop after N renders that followed a change\n"
     "  -h, --help            this text\n"
     "\n"
     "Warnings of the image script parser are printed to stderr; any warning makes\n"
@@ -73,6 +81,8 @@ struct Options {
   bool verbose = false;
   bool check = false;
   std::vector<std::string> messages;
+  bool watch = false;
+  int watchRounds = 0;  // 0: until interrupted
 };
 
 // Counts the problems reported while one script renders.
@@ -128,6 +138,16 @@ bool ParseArguments(int argc, char** argv, Options& o) {
       std::string name;
       if (!value(name)) return false;
       o.messages.push_back(name);
+    } else if (a == "-w" || a == "--watch") {
+      o.watch = true;
+    } else if (a == "--watch-rounds") {
+      std::string n;
+      if (!value(n)) return false;
+      o.watchRounds = std::atoi(n.c_str());
+      if (o.watchRounds < 1) {
+        Fail("--watch-rounds takes a positive number");
+        return false;
+      }
     } else if (a == "-v" || a == "--verbose") {
       o.verbose = true;
     } else if (!a.empty() && a[0] == '-') {
@@ -495,6 +515,82 @@ int Check(const Options& o) {
   return findings ? 1 : 0;
 }
 
+// Loads the skin afresh and renders the scripts (all of the skin's when
+// none are named).
+int RenderSkin(const Options& o, std::vector<std::string> scripts);
+
+// Modification time and size of every file of the skin that an editor may
+// change, keyed by path; editors' scratch files are left out.
+using SkinSnapshot = std::map<std::string, std::pair<fs::file_time_type, std::uintmax_t>>;
+
+SkinSnapshot Snapshot(const std::string& skin) {
+  SkinSnapshot snapshot;
+  std::error_code ec;
+  for (auto it = fs::recursive_directory_iterator(skin, ec);
+       !ec && it != fs::recursive_directory_iterator(); it.increment(ec)) {
+    const std::string name = it->path().filename().string();
+    if (name.empty() || name[0] == '.' || name.back() == '~' || HasEnding(name, ".swp")) continue;
+    std::error_code fileError;
+    if (!it->is_regular_file(fileError)) continue;
+    const auto time = it->last_write_time(fileError);
+    const auto size = it->file_size(fileError);
+    if (!fileError) snapshot[it->path().string()] = {time, size};
+  }
+  return snapshot;
+}
+
+// The names of the scripts that differ between two snapshots; empty when
+// anything else (a picture, a database, a removed file) changed as well.
+std::vector<std::string> ChangedScriptsOnly(const SkinSnapshot& before, const SkinSnapshot& now) {
+  std::set<std::string> changed;
+  auto note = [&](const std::string& path) {
+    const std::string name = ToLower(fs::path(path).filename().string());
+    if (HasEnding(name, ".sts") || HasEnding(name, ".lbs")) {
+      changed.insert(name);
+      return true;
+    }
+    return false;
+  };
+  for (const auto& [path, stamp] : now) {
+    auto it = before.find(path);
+    if ((it == before.end() || it->second != stamp) && !note(path)) return {};
+  }
+  for (const auto& entry : before)
+    if (!now.count(entry.first)) return {};
+  return {changed.begin(), changed.end()};
+}
+
+// Polls the skin and renders again once a burst of changes has been quiet
+// for a poll interval. Errors of a round are reported and the watch goes on.
+int Watch(const Options& o, int rc) {
+  using namespace std::chrono_literals;
+  std::printf("vorn-sts: watching %s (Ctrl-C ends)\n", o.skin.c_str());
+  std::fflush(stdout);
+  SkinSnapshot seen = Snapshot(o.skin);
+  for (int round = 0; o.watchRounds == 0 || round < o.watchRounds;) {
+    std::this_thread::sleep_for(250ms);
+    SkinSnapshot now = Snapshot(o.skin);
+    if (now == seen) continue;
+    // Wait until the editor has finished writing.
+    for (;;) {
+      std::this_thread::sleep_for(200ms);
+      SkinSnapshot settled = Snapshot(o.skin);
+      if (settled == now) break;
+      now = std::move(settled);
+    }
+    std::vector<std::string> scripts = o.scripts;
+    if (scripts.empty()) scripts = ChangedScriptsOnly(seen, now);
+    seen = std::move(now);
+    ++round;
+    std::printf("vorn-sts: change seen, rendering %s\n",
+                scripts.empty() ? "every script" : std::to_string(scripts.size()).c_str());
+    std::fflush(stdout);
+    rc = RenderSkin(o, scripts);
+    std::fflush(stdout);
+  }
+  return rc;
+}
+
 int Run(const Options& o) {
   std::error_code ec;
   if (!fs::is_directory(o.skin, ec)) {
@@ -507,6 +603,13 @@ int Run(const Options& o) {
     Fail("cannot create output directory " + o.output + (ec ? ": " + ec.message() : ""));
     return 2;
   }
+  const int rc = RenderSkin(o, o.scripts);
+  if (!o.watch || rc == 2) return rc;
+  return Watch(o, rc);
+}
+
+int RenderSkin(const Options& o, std::vector<std::string> scripts) {
+  g_problems = Problems();
   SetWarningMessageHandler([](const VornString& title, const VornString& text) {
     std::fprintf(stderr, "%s: %s: %s\n", g_problems.current.c_str(), title.c_str(), text.c_str());
     ++g_problems.count;
@@ -539,7 +642,7 @@ int Run(const Options& o) {
     return 1;
   }
 
-  std::vector<std::string> scripts = o.scripts.empty() ? SkinScripts(o) : o.scripts;
+  if (scripts.empty()) scripts = SkinScripts(o);
   if (scripts.empty()) {
     Fail("no .sts or .lbs scripts in " + o.skin);
     return 1;

@@ -63,6 +63,11 @@ class GalleryPage : public VornPanel {
   // Plays a few clicks with real mouse events, so that a screenshot shows the
   // log at work.
   virtual void Demo() {}
+  // For a second screenshot with a pop-up open: open one (true when it
+  // opened), draw it at its place over the page drawn at `at`, close it.
+  virtual bool OpenPopUpForShot() { return false; }
+  virtual void RenderPopUps(wxDC&, const wxPoint&) {}
+  virtual void ClosePopUps() {}
 
  protected:
   virtual void DrawPage(wxDC& dc) = 0;

@@ -6,9 +6,13 @@
 //   vorn-gallery [--skin DIR] [--archive FILE | --archive-dir DIR]
 //                [--language english|french] [--screenshot DIR]
 //                [--switch-language english|french] [--debug]
+//                [--watch [--watch-shots DIR]] [--page N]
 //
 // --screenshot DIR writes one PNG per page and exits; with --switch-language
 // it first clicks that language's button, which rebuilds every page.
+// --watch reloads the skin whenever a file in its directory changes; with
+// --watch-shots each reload also writes the current page to DIR. --page N
+// opens on the Nth page.
 #include <wx/cmdline.h>
 #include <wx/dcclient.h>
 #include <wx/dcmemory.h>
@@ -22,6 +26,7 @@
 #include <set>
 
 #include "Gallery.h"
+#include "SkinReload.h"
 
 namespace {
 
@@ -205,6 +210,25 @@ class GalleryFrame : public wxFrame {
     m_log.Add(wxString::Format("Language: %s", kLanguages[language]));
   }
 
+  // Rebuilds every page on the skin as it now is on disk; the current page
+  // and the log stay. The warnings of the reload (a script that does not
+  // parse, a bad colour line) go to the log as well as to stderr.
+  void ReloadSkin() {
+    const int selection = GetSelection();
+    std::vector<wxString> problems;
+    const WarningMessageHandler previous =
+        SetWarningMessageHandler([&problems](const VornString& title, const VornString& text) {
+          std::fprintf(stderr, "%s: %s\n", title.c_str(), text.c_str());
+          problems.push_back(wxString::FromUTF8((title + ": " + text).c_str()));
+        });
+    const bool ok = ::ReloadSkin(
+        m_assets, [this] { Teardown(); }, [this, selection] { Build(selection); });
+    SetWarningMessageHandler(previous);
+    for (const wxString& problem : problems) m_log.Add(problem);
+    m_log.Add(ok && problems.empty() ? "Skin reloaded" : "Skin reloaded, with problems");
+  }
+  int GetSelection() const { return m_pNotebook ? m_pNotebook->GetSelection() : 0; }
+
  private:
   void Teardown() {
     GetSizer()->Detach(m_pTopBar);
@@ -296,6 +320,10 @@ class GalleryApp : public wxApp {
     parser.AddOption("", "switch-language",
                      "with --screenshot: switch to this language through its button first");
     parser.AddSwitch("", "debug", "print the toolkit's debug lines");
+    parser.AddSwitch("", "watch", "reload the skin when a file in its directory changes");
+    parser.AddOption("", "watch-shots",
+                     "with --watch: write the current page to DIR after each reload");
+    parser.AddOption("", "page", "open on page N (from 1)", wxCMD_LINE_VAL_NUMBER);
   }
   bool OnCmdLineParsed(wxCmdLineParser& parser) override {
     parser.Found("skin", &m_options.skinDir);
@@ -308,6 +336,9 @@ class GalleryApp : public wxApp {
       return false;
     parser.Found("screenshot", &m_shotDir);
     m_debug = parser.Found("debug");
+    m_watch = parser.Found("watch");
+    parser.Found("watch-shots", &m_watchShotDir);
+    parser.Found("page", &m_page);
     return wxApp::OnCmdLineParsed(parser);
   }
 
@@ -322,12 +353,17 @@ class GalleryApp : public wxApp {
       if (m_assets->GetNumAssets() == 0) return false;
     }
     m_frame = new GalleryFrame(*m_assets, m_options, m_language);
+    if (m_page >= 1 && static_cast<std::size_t>(m_page) <= m_frame->NumPages())
+      m_frame->GetNotebook()->ChangeSelection(m_page - 1);
     m_frame->Show();
     if (!m_shotDir.empty()) CallAfter([this] { TakeScreenshots(); });
+    // The watcher needs the running event loop.
+    if (m_watch) CallAfter([this] { StartWatching(); });
     return true;
   }
 
   int OnExit() override {
+    m_watcher.reset();
     // The frame is gone by now; the manager deletes its images last.
     m_assets.reset();
     return wxApp::OnExit();
@@ -348,7 +384,14 @@ class GalleryApp : public wxApp {
       wxMemoryDC mem(shot);
       mem.Blit(0, 0, size.x, size.y, &screen, 0, 0);
     }
-    if (LooksDrawn(shot.ConvertToImage())) return shot;
+    if (LooksDrawn(shot.ConvertToImage())) {
+      // Pop-ups are top-level windows of their own: the frame's read-back
+      // does not hold them.
+      wxMemoryDC mem(shot);
+      page->RenderPopUps(mem, m_frame->ScreenToClient(page->GetScreenPosition()));
+      mem.SelectObject(wxNullBitmap);
+      return shot;
+    }
 
     std::fprintf(stderr, "vorn-gallery: screen not readable, drawing the page directly\n");
     TopBar* bar = m_frame->GetTopBar();
@@ -361,6 +404,7 @@ class GalleryApp : public wxApp {
     mem.Clear();
     RenderToolkitWindows(bar, mem, wxPoint(0, 0));
     RenderToolkitWindows(page, mem, wxPoint(6, barHeight + 6));
+    page->RenderPopUps(mem, wxPoint(6, barHeight + 6));
     mem.SelectObject(wxNullBitmap);
     return drawn;
   }
@@ -374,6 +418,15 @@ class GalleryApp : public wxApp {
     }
     std::fprintf(stderr, "vorn-gallery: unknown language %s\n", name.utf8_str().data());
     return false;
+  }
+
+  void SaveShot(const wxBitmap& shot, const wxString& path) {
+    if (!LooksDrawn(shot.ConvertToImage()) || !shot.SaveFile(path, wxBITMAP_TYPE_PNG)) {
+      std::fprintf(stderr, "vorn-gallery: cannot write %s\n", path.utf8_str().data());
+      m_exitCode = 1;
+    } else {
+      std::printf("%s\n", path.utf8_str().data());
+    }
   }
 
   void TakeScreenshots() {
@@ -390,22 +443,75 @@ class GalleryApp : public wxApp {
       m_frame->Refresh();
       m_frame->Update();
       PumpFor(400);
-      const wxBitmap shot = Capture(m_frame->GetPage(i));
-      const wxString path =
-          wxString::Format("%s/%02zu-%s.png", m_shotDir, i + 1, infos[i].fileName);
-      if (!LooksDrawn(shot.ConvertToImage()) || !shot.SaveFile(path, wxBITMAP_TYPE_PNG)) {
-        std::fprintf(stderr, "vorn-gallery: cannot write %s\n", path.utf8_str().data());
-        m_exitCode = 1;
-      } else {
-        std::printf("%s\n", path.utf8_str().data());
+      SaveShot(Capture(m_frame->GetPage(i)),
+               wxString::Format("%s/%02zu-%s.png", m_shotDir, i + 1, infos[i].fileName));
+      if (m_frame->GetPage(i)->OpenPopUpForShot()) {
+        PumpFor(200);
+        SaveShot(Capture(m_frame->GetPage(i)),
+                 wxString::Format("%s/%02zu-%s-open.png", m_shotDir, i + 1, infos[i].fileName));
+        m_frame->GetPage(i)->ClosePopUps();
       }
     }
     m_frame->Destroy();
   }
 
+  // The directory a designer edits: the skin directory, else the archives'.
+  wxString WatchedDir() const {
+    if (!m_options.skinDir.empty()) return m_options.skinDir;
+    if (!m_options.archiveDir.empty()) return m_options.archiveDir;
+    if (!m_options.archive.empty()) return wxFileName(m_options.archive).GetPath();
+    return DefaultSkinDir();
+  }
+
+  void StartWatching() {
+    const wxString dir = WatchedDir();
+    m_watcher = std::make_unique<SkinWatcher>([this] { OnSkinChanged(); });
+    m_frame->Bind(wxEVT_DESTROY, [this](wxWindowDestroyEvent& event) {
+      if (event.GetEventObject() == m_frame) m_frame = nullptr;
+      event.Skip();
+    });
+    if (!m_watcher->Watch(dir)) {
+      std::fprintf(stderr, "vorn-gallery: cannot watch %s\n", dir.utf8_str().data());
+      m_watcher.reset();
+      return;
+    }
+    std::printf("vorn-gallery: watching %s\n", dir.utf8_str().data());
+    std::fflush(stdout);
+    if (!m_watchShotDir.empty()) {
+      wxFileName::Mkdir(m_watchShotDir, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
+      m_shotTimer.Bind(wxEVT_TIMER, [this](wxTimerEvent&) { WriteWatchShot(); });
+      m_shotTimer.StartOnce(500);
+    }
+  }
+
+  void OnSkinChanged() {
+    if (!m_frame) return;
+    m_frame->ReloadSkin();
+    std::printf("vorn-gallery: skin reloaded\n");
+    std::fflush(stdout);
+    if (!m_watchShotDir.empty()) m_shotTimer.StartOnce(500);  // once the pages have drawn
+  }
+
+  void WriteWatchShot() {
+    if (!m_frame) return;
+    const wxBitmap shot = Capture(m_frame->GetPage(m_frame->GetSelection()));
+    const wxString path = wxString::Format("%s/watch-%03d.png", m_watchShotDir, m_watchShots++);
+    if (shot.SaveFile(path, wxBITMAP_TYPE_PNG))
+      std::printf("%s\n", path.utf8_str().data());
+    else
+      std::fprintf(stderr, "vorn-gallery: cannot write %s\n", path.utf8_str().data());
+    std::fflush(stdout);
+  }
+
   SkinOptions m_options;
   int m_language = 0;
   int m_switchTo = -1;
+  bool m_watch = false;
+  wxString m_watchShotDir;
+  int m_watchShots = 0;
+  long m_page = 0;
+  wxTimer m_shotTimer;
+  std::unique_ptr<SkinWatcher> m_watcher;
   bool m_debug = false;
   wxString m_shotDir;
   int m_exitCode = 0;

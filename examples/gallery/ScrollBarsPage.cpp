@@ -16,7 +16,7 @@ constexpr int kColumn = 100;  // distance between the specimens
 constexpr int kFirstX = 56;
 constexpr int kListWidth = 150;
 
-enum Id : unsigned int { kEnd = 400, kRight, kPlain, kMonster, kImage, kList };
+enum Id : unsigned int { kEnd = 400, kRight, kPlain, kMonster, kImage, kList, kText };
 
 // Something that shows a value under its specimen.
 struct Readout {
@@ -124,6 +124,7 @@ class ScrollBarsPage : public GalleryPage {
     const int listX = kFirstX + 5 * kColumn - 20;
     m_pList =
         new ScrollList(this, listX, kBarTop, ctx, Place(5, listX, kListWidth, "Pop-up list bar"));
+    BuildTextBox(listX + kListWidth + 24);
     SetSize(960, kBarTop + kBarHeight + 70);
   }
   ~ScrollBarsPage() override { DestroyChildren(); }
@@ -153,6 +154,19 @@ class ScrollBarsPage : public GalleryPage {
     SendMouse(m_pList, wxEVT_LEFT_DOWN, barX, listTop);
     SendMouse(m_pList, wxEVT_MOTION, barX, listTop + 40);
     SendMouse(m_pList, wxEVT_LEFT_UP, barX, listTop + 40);
+    if (m_pText) {
+      // A click, a typed character and the focus leaving: the box reports.
+      const wxRect area = m_pText->GetTextArea();
+      SendMouse(m_pText, wxEVT_LEFT_DOWN, area.x + 2, area.y + 2);
+      SendMouse(m_pText, wxEVT_LEFT_UP, area.x + 2, area.y + 2);
+      wxKeyEvent key(wxEVT_CHAR);
+      key.m_keyCode = '>';
+      m_pText->GetEventHandler()->ProcessEvent(key);
+      wxFocusEvent lose(wxEVT_KILL_FOCUS);
+      m_pText->GetEventHandler()->ProcessEvent(lose);
+      wxMouseEvent turn = MakeWheel(m_pText, -240);
+      m_pText->GetEventHandler()->ProcessEvent(turn);
+    }
   }
 
  protected:
@@ -166,6 +180,9 @@ class ScrollBarsPage : public GalleryPage {
       DrawCentred(dc, wxString::Format("%s %.3f", m_ctx.Msg("Value"), r.value), centre,
                   r.rect.y + 18, "label", "text");
     }
+    if (m_pText)
+      DrawCentred(dc, m_ctx.Msg("Multi-line text"), m_pText->GetPosX() + m_pText->GetWidth() / 2,
+                  kBarTop + kBarHeight + 10, "small", "text_dim");
   }
 
  private:
@@ -223,6 +240,21 @@ class ScrollBarsPage : public GalleryPage {
     };
   }
 
+  // A multi-line box long enough to scroll, reporting to the log.
+  void BuildTextBox(int x) {
+    const wxBitmap* picture = nullptr;
+    VornEditInfo info;
+    if (!m_ctx.Assets().LoadEditWidgetCached("edit_multiline.sts", picture, info)) {
+      m_ctx.Log().Add("cannot load edit_multiline.sts");
+      return;
+    }
+    m_pText = new VornMultiEdit(picture, info, x, kBarTop, this, kText, true, &m_textGroup);
+    m_pText->SetScrollColours(m_outline, m_track, m_hover);
+    m_pText->SetText(Utf8(m_ctx.Msg("Multi-line sample") + "\n" + m_ctx.Msg("Multi-line sample 2")),
+                     false);
+    m_textGroup.SetName(kText, m_ctx.Msg("Multi-line text"));
+  }
+
   static wxMouseEvent MakeWheel(wxWindow* window, int rotation) {
     wxMouseEvent e(wxEVT_MOUSEWHEEL);
     e.SetEventObject(window);
@@ -247,6 +279,7 @@ class ScrollBarsPage : public GalleryPage {
   };
 
   LoggingValueGroup m_group;
+  LoggingGroup<VornControlGroup> m_textGroup{m_ctx.Log()};
   ImageGroup m_imageGroup{m_ctx.Log()};
   wxColour m_outline, m_track, m_hover;
   std::vector<Readout> m_readouts;
@@ -256,6 +289,7 @@ class ScrollBarsPage : public GalleryPage {
   VornSimpleScrollBar* m_pPlain = nullptr;
   VornScrollBar* m_pImage = nullptr;
   ScrollList* m_pList = nullptr;
+  VornMultiEdit* m_pText = nullptr;
 };
 
 const GalleryPageRegistrar kRegistrar({40, "Scroll bars", "scroll-bars",

@@ -9,9 +9,11 @@
 #include <wx/image.h>
 #include <wx/string.h>
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "vorn/Asset.h"
@@ -198,6 +200,26 @@ class AssetManager {
   std::string m_subLanguage;
   std::multimap<std::string, std::unique_ptr<Asset>> m_assets;
   std::vector<std::unique_ptr<AssetLoader>> m_loaders;
+  // Lookup side of the index: per name, its variants in registration order
+  // (m_variantLists[variants]) and the variant last chosen for the current
+  // settings, valid while memo equals m_memoGeneration. Anything that changes
+  // the settings or the index moves the generation on. Kept small so that a
+  // lookup touches one node.
+  struct NameEntry {
+    mutable Asset* best = nullptr;
+    mutable std::uint32_t memo = 0;
+    std::uint32_t variants = 0;
+  };
+  std::unordered_map<std::string, NameEntry> m_byName;
+  std::vector<std::vector<Asset*>> m_variantLists;
+  std::uint32_t m_memoGeneration = 1;
+  std::string m_platformKey;        // m_platform lower-cased
+  mutable std::string m_lookupKey;  // reused so lookups do not allocate
+  void ForgetChoices();
+  void ClearIndex();
+  void CompactLookup();
+  const NameEntry* FindName(const char* name) const;
+  Asset* BestForSettings(const NameEntry& entry) const;
   void* m_pSpecialInfo = nullptr;
   std::map<std::string, ColorA> m_colours;
   std::map<std::string, wxFont> m_fonts;

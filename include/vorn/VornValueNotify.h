@@ -22,7 +22,8 @@ inline double DragFactor(bool fine) {
 
 // A press that starts a drag: ControlSelected.
 void Pressed(VornControl& control, VornControlGroupValue* group);
-// One step of a drag: ControlDrag, then RealValChanging with value.
+// One step of a drag: ControlDrag, then RealValChanging with value (the
+// value hints go out under id 0, the gestures under the control's id).
 void Dragged(VornControl& control, VornControlGroupValue* group, double value);
 // The release: ControlUnSelected, then RealValChanged with value.
 void Released(VornControl& control, VornControlGroupValue* group, double value);

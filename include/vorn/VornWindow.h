@@ -182,6 +182,9 @@ class VornWindow : public wxWindow {
   bool m_bMouseCaptive = false;
   bool m_bVisible = false;
   wxToolTip* m_pToolTip = nullptr;  // owned by wxWidgets once handed over
+  // Cleared by windows that take typing: their skipped key presses must stay
+  // unhandled so that wx follows them with the character event.
+  bool m_bForwardKeyDown = true;
 
  private:
   bool CreateWindow(int x, int y, const wxSize& size, wxWindow* parent, int id, long style);

@@ -2,6 +2,8 @@
 // menu texts and messages, and the clearing of everything the manager owns.
 #include "vorn/AssetManager.h"
 
+#include <algorithm>
+#include <cstring>
 #include <sstream>
 
 #include "vorn/ArchiveAsset.h"
@@ -32,52 +34,59 @@ std::string OpenFailureReason(const AssetLoader& loader) {
 }
 
 // The seven identities tried in order, most specific first. The stored fields
-// are lower-case, so the lower-cased arguments are compared exactly.
-struct Identities {
-  std::string name, platform, language, subLanguage;
-  static const std::string& Generic() {
-    static const std::string generic = "generic";
-    return generic;
-  }
-  Identities(const char* n, const char* p, const char* l, const char* s)
-      : name(ToLower(Str(n))),
-        platform(ToLower(Str(p))),
-        language(ToLower(Str(l))),
-        subLanguage(ToLower(Str(s))) {}
-  static bool Is(const Asset& a, const std::string& p, const std::string& l, const std::string& s) {
-    return a.platform == p && a.language == l && a.subLanguage == s;
-  }
-  bool Try(int index, const Asset& a) const {
-    static const std::string none;
-    switch (index) {
-      case 0:
-        return Is(a, platform, language, subLanguage);
-      case 1:
-        return Is(a, Generic(), language, subLanguage);
-      case 2:
-        return Is(a, platform, language, none);
-      case 3:
-        return Is(a, Generic(), language, none);
-      case 4:
-        return Is(a, platform, none, none);
-      case 5:
-        return Is(a, Generic(), none, none);
-      default:
-        return Is(a, none, none, none);
-    }
-  }
-  static constexpr int kTries = 7;
-};
+// are lower-case, so lower-cased settings are compared exactly.
+constexpr int kTries = 7;
 
-using AssetIndex = std::multimap<std::string, std::unique_ptr<Asset>>;
+const std::string& Generic() {
+  static const std::string generic = "generic";
+  return generic;
+}
 
-// The entries under name: one descent of the tree, then a short walk.
-std::pair<AssetIndex::const_iterator, AssetIndex::const_iterator> VariantsOf(
-    const AssetIndex& index, const std::string& name) {
-  auto first = index.lower_bound(name);
-  auto last = first;
-  while (last != index.end() && last->first == name) ++last;
-  return {first, last};
+bool Is(const Asset& a, const std::string& p, const std::string& l, const std::string& s) {
+  return a.platform == p && a.language == l && a.subLanguage == s;
+}
+
+bool Try(int index, const Asset& a, const std::string& platform, const std::string& language,
+         const std::string& subLanguage) {
+  static const std::string none;
+  switch (index) {
+    case 0:
+      return Is(a, platform, language, subLanguage);
+    case 1:
+      return Is(a, Generic(), language, subLanguage);
+    case 2:
+      return Is(a, platform, language, none);
+    case 3:
+      return Is(a, Generic(), language, none);
+    case 4:
+      return Is(a, platform, none, none);
+    case 5:
+      return Is(a, Generic(), none, none);
+    default:
+      return Is(a, none, none, none);
+  }
+}
+
+// The best variant for the lower-cased settings, or null.
+Asset* Choose(const std::vector<Asset*>& variants, const std::string& platform,
+              const std::string& language, const std::string& subLanguage) {
+  for (int t = 0; t < kTries; ++t)
+    for (Asset* a : variants)
+      if (Try(t, *a, platform, language, subLanguage)) return a;
+  return nullptr;
+}
+
+// s lower-cased equals lower, without building the lower-cased copy; the
+// common case, s as stored or as the host gave it, costs one strcmp.
+bool EqualsLowered(const char* s, const std::string& lower, const std::string& given) {
+  if (std::strcmp(s, lower.c_str()) == 0 || std::strcmp(s, given.c_str()) == 0) return true;
+  std::size_t i = 0;
+  for (; s[i]; ++i) {
+    char c = s[i];
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    if (i >= lower.size() || c != lower[i]) return false;
+  }
+  return i == lower.size();
 }
 
 // Bytes of an asset text as a wxString: UTF-8, or Latin-1 when the bytes are
@@ -111,7 +120,7 @@ bool AssetManager::SetAssetLoader(std::unique_ptr<AssetLoader> loader) {
 bool AssetManager::SetLanguageAndReload(const char* language, const char* subLanguage) {
   SetLanguage(language, subLanguage);
   // Loaders index only the current language's directories: start afresh.
-  m_assets.clear();
+  ClearIndex();
   bool ok = LoadAssets();
   const std::vector<std::string> messageFiles = m_messageFiles;
   ClearMessageDatabase();
@@ -131,6 +140,8 @@ bool AssetManager::SetLanguageAndReload(const char* language, const char* subLan
 
 void AssetManager::SetPlatform(const char* platform) {
   m_platform = Str(platform);
+  m_platformKey = ToLower(m_platform);
+  ForgetChoices();
 }
 
 void AssetManager::GetPlatform(std::string& out) const {
@@ -140,6 +151,7 @@ void AssetManager::GetPlatform(std::string& out) const {
 void AssetManager::SetLanguage(const char* language, const char* subLanguage) {
   m_language = ToLower(Str(language));
   m_subLanguage = ToLower(Str(subLanguage));
+  ForgetChoices();
 }
 
 void AssetManager::GetLanguage(std::string& language, std::string& subLanguage) const {
@@ -150,6 +162,7 @@ void AssetManager::GetLanguage(std::string& language, std::string& subLanguage) 
 bool AssetManager::LoadAssets() {
   VORN_ASSERT(!m_loaders.empty());
   if (m_loaders.empty()) return false;
+  ForgetChoices();
   bool ok = true;
   for (std::size_t i = 0; i < m_loaders.size(); ++i) {
     AssetLoader& loader = *m_loaders[i];
@@ -164,6 +177,7 @@ bool AssetManager::LoadAssets() {
       ok = false;
     }
   }
+  CompactLookup();
   return ok;
 }
 
@@ -171,47 +185,99 @@ bool AssetManager::SetAsset(Asset* asset) {
   VORN_ASSERT(asset != nullptr);
   if (!asset) return false;
   std::unique_ptr<Asset> owned(asset);
+  auto [entry, added] = m_byName.try_emplace(asset->name);
+  if (added) {
+    entry->second.variants = static_cast<std::uint32_t>(m_variantLists.size());
+    m_variantLists.emplace_back();
+  }
+  std::vector<Asset*>& variants = m_variantLists[entry->second.variants];
   auto range = m_assets.equal_range(asset->name);
   for (auto it = range.first; it != range.second; ++it) {
     if (it->second->IsEqual(asset->name.c_str(), asset->platform.c_str(), asset->language.c_str(),
                             asset->subLanguage.c_str())) {
+      variants.erase(std::find(variants.begin(), variants.end(), it->second.get()));
       m_assets.erase(it);
       break;
     }
   }
   // Placed after every variant already under the name.
+  variants.push_back(asset);
   m_assets.emplace_hint(range.second, asset->name, std::move(owned));
+  // A memo may point at the asset just deleted, or miss the new one.
+  ForgetChoices();
   return true;
 }
 
+void AssetManager::ForgetChoices() {
+  if (++m_memoGeneration != 0) return;
+  // Wrapped round: no memo may look current by accident.
+  for (auto& entry : m_byName) entry.second.memo = 0;
+  m_memoGeneration = 1;
+}
+
+// Loaders register assets one at a time among their other allocations; a
+// fresh copy of the name table puts its nodes next to each other, which is
+// what keeps lookups over many names quick.
+void AssetManager::CompactLookup() {
+  std::unordered_map<std::string, NameEntry> compact;
+  compact.reserve(m_byName.size());
+  for (const auto& entry : m_byName) compact.emplace(entry.first, entry.second);
+  m_byName.swap(compact);
+}
+
+void AssetManager::ClearIndex() {
+  m_byName.clear();
+  m_variantLists.clear();
+  m_assets.clear();
+  ForgetChoices();
+}
+
+const AssetManager::NameEntry* AssetManager::FindName(const char* name) const {
+  m_lookupKey.assign(Str(name));
+  for (char& c : m_lookupKey)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  const auto it = m_byName.find(m_lookupKey);
+  return it == m_byName.end() ? nullptr : &it->second;
+}
+
+Asset* AssetManager::BestForSettings(const NameEntry& entry) const {
+  if (entry.memo != m_memoGeneration) {
+    entry.best = Choose(m_variantLists[entry.variants], m_platformKey, m_language, m_subLanguage);
+    entry.memo = m_memoGeneration;
+  }
+  return entry.best;
+}
+
 bool AssetManager::GetAsset(const char* name, Asset*& out) const {
-  // GetBestAsset lower-cases the name.
-  return GetBestAsset(out, name, m_platform.c_str(), m_language.c_str(), m_subLanguage.c_str());
+  const NameEntry* entry = FindName(name);
+  Asset* best = entry ? BestForSettings(*entry) : nullptr;
+  if (best) out = best;
+  return best != nullptr;
 }
 
 bool AssetManager::GetBestAsset(Asset*& out, const char* name, const char* platform,
                                 const char* language, const char* subLanguage) const {
-  const Identities want(name, platform, language, subLanguage);
-  const auto range = VariantsOf(m_assets, want.name);
-  for (int t = 0; t < Identities::kTries; ++t) {
-    for (auto it = range.first; it != range.second; ++it) {
-      if (want.Try(t, *it->second)) {
-        out = it->second.get();
-        return true;
-      }
-    }
-  }
-  return false;
+  const NameEntry* entry = FindName(name);
+  if (!entry) return false;
+  Asset* best = nullptr;
+  if (EqualsLowered(Str(platform), m_platformKey, m_platform) &&
+      EqualsLowered(Str(language), m_language, m_language) &&
+      EqualsLowered(Str(subLanguage), m_subLanguage, m_subLanguage))
+    best = BestForSettings(*entry);
+  else
+    best = Choose(m_variantLists[entry->variants], ToLower(Str(platform)), ToLower(Str(language)),
+                  ToLower(Str(subLanguage)));
+  if (best) out = best;
+  return best != nullptr;
 }
 
 bool AssetManager::GetAllAssets(const char* name, std::vector<Asset*>& out) const {
-  const Identities want(name, m_platform.c_str(), m_language.c_str(), m_subLanguage.c_str());
-  const auto range = VariantsOf(m_assets, want.name);
-  if (range.first == range.second) return false;
-  for (auto it = range.first; it != range.second; ++it) {
-    for (int t = 0; t < Identities::kTries; ++t) {
-      if (want.Try(t, *it->second)) {
-        out.push_back(it->second.get());
+  const NameEntry* entry = FindName(name);
+  if (!entry) return false;
+  for (Asset* a : m_variantLists[entry->variants]) {
+    for (int t = 0; t < kTries; ++t) {
+      if (Try(t, *a, m_platformKey, m_language, m_subLanguage)) {
+        out.push_back(a);
         break;
       }
     }
@@ -266,7 +332,7 @@ void AssetManager::CloseAll() {
 
 void AssetManager::ClearAssets() {
   // Assets first: archive assets point into their loader's buffer.
-  m_assets.clear();
+  ClearIndex();
   m_loaders.clear();
 }
 

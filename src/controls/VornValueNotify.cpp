@@ -2,6 +2,8 @@
 
 namespace VornValueNotify {
 
+// Value hints travel under id 0: receivers tell the control by the source.
+
 void Pressed(VornControl& control, VornControlGroupValue* group) {
   if (group) group->ControlSelected(control.GetId(), &control);
 }
@@ -10,14 +12,14 @@ void Dragged(VornControl& control, VornControlGroupValue* group, double value) {
   if (!group) return;
   group->ControlDrag(control.GetId(), &control);
   RealValChanging hint(value);
-  group->Update(control.GetId(), &control, &hint);
+  group->Update(0, &control, &hint);
 }
 
 void Released(VornControl& control, VornControlGroupValue* group, double value) {
   if (!group) return;
   group->ControlUnSelected(control.GetId(), &control);
   RealValChanged hint(value);
-  group->Update(control.GetId(), &control, &hint);
+  group->Update(0, &control, &hint);
 }
 
 }  // namespace VornValueNotify

@@ -250,6 +250,10 @@ void VornWindow::SendKeyEvent(wxEventType type, const wxKeyEvent& key) {
 }
 
 void VornWindow::OnVornKeyDown(wxKeyEvent& event) {
+  if (!m_bForwardKeyDown) {
+    event.Skip();
+    return;
+  }
   SendKeyEvent(VORNEVT_KEY_DOWN, event);
 }
 

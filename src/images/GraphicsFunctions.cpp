@@ -1,23 +1,13 @@
-// Conversions between the host's images and wx images, colour conversions and
-// the grey-mask functions of the image scripts.
+// Conversions between the host's images and wx images, and colour
+// conversions (the grey-mask functions are in GreyMapping.cpp).
 #include "vorn/GraphicsFunctions.h"
 
-#include <array>
 #include <cmath>
 #include <cstring>
 
 #include "vorn/VornAssert.h"
 
 namespace {
-// trunc(v) as its low byte, without undefined behaviour for huge or NaN v.
-inline unsigned char LowByte(double v) {
-  if (v > -2147483648.0 && v < 2147483648.0) return static_cast<unsigned char>(static_cast<int>(v));
-  if (std::isnan(v)) return 0;
-  double m = std::fmod(std::trunc(v), 256.0);
-  if (m < 0) m += 256.0;
-  return static_cast<unsigned char>(m);
-}
-
 // trunc(v) clamped to 0..255.
 inline unsigned char ClampByte(double v) {
   if (!(v > 0.0)) return 0;
@@ -75,63 +65,6 @@ bool BlitOntoCopy(wxImage& dst, const B& base, const B& top, int x, int y) {
   return ImageFromBitmap(dst, composed);
 }
 
-bool GreyMaskUsable(const BitmapA& dst, const wxImage& grey) {
-  const int gw = grey.IsOk() ? grey.GetWidth() : 0;
-  const int gh = grey.IsOk() ? grey.GetHeight() : 0;
-  VORN_ASSERT(dst.width == gw && dst.height == gh);
-  VORN_ASSERT(dst.format == 3);
-  if (dst.width != gw || dst.height != gh || dst.format != 3) return false;
-  const bool fits = dst.data.size() >= static_cast<std::size_t>(gw) * gh * 4;
-  VORN_ASSERT(fits);
-  return fits;
-}
-
-inline int GreyAt(const unsigned char* rgb) {
-  return (rgb[0] + rgb[1] + rgb[2]) / 3;
-}
-
-enum class AlphaMode { kKeep, kMap, kSet };
-enum class ColourMode { kKeep, kMap, kSet };
-
-// One pass over the mask, one loop per mode combination. The per-grey factors
-// are tabulated with exactly the expressions of the per-pixel formula, so the
-// results are the same.
-template <ColourMode colours, AlphaMode alpha>
-bool ApplyGrey(BitmapA& dst, const wxImage& grey, const Color* colour) {
-  if (!GreyMaskUsable(dst, grey)) return false;
-  const std::size_t count = static_cast<std::size_t>(dst.width) * dst.height;
-  if (count == 0) return true;
-  const double c[3] = {colour ? colour->r : 0.0, colour ? colour->g : 0.0,
-                       colour ? colour->b : 0.0};
-  std::array<std::array<unsigned char, 256>, 3> byGrey{};  // map: trunc(c*t*255) mod 256;
-                                                           // set: trunc(c*grey)
-  std::array<double, 256> keep{};                          // map: 1 - t
-  if constexpr (colours != ColourMode::kKeep) {
-    for (int g = 0; g < 256; ++g) {
-      const double t = g / 255.0;
-      keep[g] = 1 - t;
-      for (int ch = 0; ch < 3; ++ch)
-        byGrey[ch][g] = colours == ColourMode::kMap ? LowByte(c[ch] * t * 255) : LowByte(c[ch] * g);
-    }
-  }
-  const unsigned char* mask = grey.GetData();
-  unsigned char* px = dst.data.data();
-  for (std::size_t i = 0; i < count; ++i, mask += 3, px += 4) {
-    const int g = GreyAt(mask);
-    if constexpr (colours == ColourMode::kMap) {
-      // Both terms lie in 0..255, so the sum converts to int safely.
-      for (int ch = 0; ch < 3; ++ch)
-        px[ch] = static_cast<unsigned char>(static_cast<int>(byGrey[ch][g] + px[ch] * keep[g]));
-    } else if constexpr (colours == ColourMode::kSet) {
-      for (int ch = 0; ch < 3; ++ch) px[ch] = byGrey[ch][g];
-    }
-    if constexpr (alpha == AlphaMode::kMap)
-      px[3] = g == 0 ? 0 : 255;
-    else if constexpr (alpha == AlphaMode::kSet)
-      px[3] = static_cast<unsigned char>(g);
-  }
-  return true;
-}
 }  // namespace
 
 bool ConvertTo(Bitmap& dst, const wxImage& src) {
@@ -211,28 +144,4 @@ bool ClearwxImage(wxImage& image, const Color& c) {
   const std::size_t count = static_cast<std::size_t>(image.GetWidth()) * image.GetHeight();
   for (std::size_t i = 0; i < count; ++i, px += 3) std::memcpy(px, rgb, 3);
   return true;
-}
-
-bool MapAlphaFromGrey(BitmapA& dst, const wxImage& grey) {
-  return ApplyGrey<ColourMode::kKeep, AlphaMode::kMap>(dst, grey, nullptr);
-}
-
-bool MapColoursFromGrey(BitmapA& dst, const wxImage& grey, const Color& c) {
-  return ApplyGrey<ColourMode::kMap, AlphaMode::kKeep>(dst, grey, &c);
-}
-
-bool MapAllFromGrey(BitmapA& dst, const wxImage& grey, const Color& c) {
-  return ApplyGrey<ColourMode::kMap, AlphaMode::kMap>(dst, grey, &c);
-}
-
-bool SetAlphaFromGrey(BitmapA& dst, const wxImage& grey) {
-  return ApplyGrey<ColourMode::kKeep, AlphaMode::kSet>(dst, grey, nullptr);
-}
-
-bool SetColoursFromGrey(BitmapA& dst, const wxImage& grey, const Color& c) {
-  return ApplyGrey<ColourMode::kSet, AlphaMode::kKeep>(dst, grey, &c);
-}
-
-bool SetAllFromGrey(BitmapA& dst, const wxImage& grey, const Color& c) {
-  return ApplyGrey<ColourMode::kSet, AlphaMode::kSet>(dst, grey, &c);
 }
