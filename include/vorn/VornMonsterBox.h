@@ -210,7 +210,8 @@ class VornMonsterBox : public VornControl {
   void ClearAll();
   int GetRowCount() const { return m_rows; }
   int GetColumnCount() const { return static_cast<int>(m_columns.size()); }
-  MonsterColumn* GetRowColumn(int row, int column);  // the column, if row exists
+  // The control of a cell, or null outside the rows and columns.
+  VornControl* GetRowColumn(int row, int column);
   ColumnEntry* GetRowColumnEntry(int row, int column);
   // The cell holding control, or -1, -1.
   void FindRowColumn(VornControl* control, int& row, int& column);
@@ -232,7 +233,8 @@ class VornMonsterBox : public VornControl {
   using VornControl::SetSize;
   void SetMaxSize(int maxHeight) { m_maxHeight = maxHeight; }
   int GetMaxHeight() const { return m_maxHeight; }
-  void SetRowHeight(int h) { m_rowHeight = h; }
+  // Lays the rows out again at the new height.
+  void SetRowHeight(int h);
   int GetRowHeight() const { return m_rowHeight; }
   int GetListHeight() const { return m_listHeight; }
   int GetScrollOffset() const { return m_scrollOffset; }
@@ -249,7 +251,7 @@ class VornMonsterBox : public VornControl {
   void SetColors(const wxColour& cellBackground, const wxColour& cellText);
   void SetSepColour(const wxColour& separator);
   void SetScrollHandle(const wxBitmap* handle) { m_pScrollHandle = handle; }
-  void Resizable(bool resizable) { m_bResizable = resizable; }
+  void Resizable(bool resizable);
   bool IsResizable() const { return m_bResizable; }
   bool IsResizing() const { return m_bResizing; }
   const VornString& GetBoxName() const { return m_name; }
@@ -268,6 +270,8 @@ class VornMonsterBox : public VornControl {
   void LocalLeftDClick(wxMouseEvent& event);
   void LocalMotion(wxMouseEvent& event);
   void OnMouseWheel(wxMouseEvent& event);
+  // Another window took the pointer: a grip drag ends.
+  void OnResizeCaptureLost(wxMouseCaptureLostEvent& event);
 
  private:
   friend class ColumnEntry;

@@ -8,11 +8,15 @@ namespace {
 constexpr int kRowLineLightness = 85;  // the line under a row, darker than the cell
 }
 
-wxBEGIN_EVENT_TABLE(ColumnEntry, wxWindow) EVT_PAINT(ColumnEntry::OnPaint)
-    EVT_ERASE_BACKGROUND(ColumnEntry::OnEraseBackground) EVT_MOUSEWHEEL(ColumnEntry::ForwardWheel)
-        wxEND_EVENT_TABLE()
+// clang-format off
+wxBEGIN_EVENT_TABLE(ColumnEntry, wxWindow)
+  EVT_PAINT(ColumnEntry::OnPaint)
+  EVT_ERASE_BACKGROUND(ColumnEntry::OnEraseBackground)
+  EVT_MOUSEWHEEL(ColumnEntry::ForwardWheel)
+wxEND_EVENT_TABLE()
+// clang-format on
 
-            ColumnEntry::ColumnEntry(wxWindow* panel)
+ColumnEntry::ColumnEntry(wxWindow* panel)
     : wxWindow(panel, wxID_STATIC, wxPoint(0, 0), wxSize(1, 1), wxBORDER_NONE | wxCLIP_CHILDREN) {}
 
 ColumnEntry::~ColumnEntry() = default;

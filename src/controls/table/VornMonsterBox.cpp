@@ -19,12 +19,18 @@ constexpr int kHeadingCorner = 4;
 constexpr int kAlternateLightness = 110;  // every second row is a little lighter
 }  // namespace
 
-wxBEGIN_EVENT_TABLE(VornMonsterBox, VornControl) EVT_LEFT_DOWN(VornMonsterBox::LocalLeftDown)
-    EVT_LEFT_UP(VornMonsterBox::LocalLeftUp) EVT_LEFT_DCLICK(VornMonsterBox::LocalLeftDClick)
-        EVT_MOTION(VornMonsterBox::LocalMotion) EVT_MOUSEWHEEL(VornMonsterBox::OnMouseWheel)
-            wxEND_EVENT_TABLE()
+// clang-format off
+wxBEGIN_EVENT_TABLE(VornMonsterBox, VornControl)
+  EVT_LEFT_DOWN(VornMonsterBox::LocalLeftDown)
+  EVT_LEFT_UP(VornMonsterBox::LocalLeftUp)
+  EVT_LEFT_DCLICK(VornMonsterBox::LocalLeftDClick)
+  EVT_MOTION(VornMonsterBox::LocalMotion)
+  EVT_MOUSEWHEEL(VornMonsterBox::OnMouseWheel)
+  EVT_MOUSE_CAPTURE_LOST(VornMonsterBox::OnResizeCaptureLost)
+wxEND_EVENT_TABLE()
+// clang-format on
 
-                VornMonsterBox::VornMonsterBox()
+VornMonsterBox::VornMonsterBox()
     : m_scrollOutline(122, 134, 150),
       m_scrollBackground(29, 33, 40),
       m_cellBackground(29, 33, 40),
@@ -134,15 +140,14 @@ void VornMonsterBox::ClearAll() {
   Refresh(false);
 }
 
-MonsterColumn* VornMonsterBox::GetRowColumn(int row, int column) {
-  if (column < 0 || column >= GetColumnCount()) return nullptr;
-  MonsterColumn* c = m_columns[column].get();
-  return row >= 0 && row < c->GetEntryCount() ? c : nullptr;
+VornControl* VornMonsterBox::GetRowColumn(int row, int column) {
+  ColumnEntry* entry = GetRowColumnEntry(row, column);
+  return entry ? entry->GetControl() : nullptr;
 }
 
 ColumnEntry* VornMonsterBox::GetRowColumnEntry(int row, int column) {
-  MonsterColumn* c = GetRowColumn(row, column);
-  return c ? c->GetEntry(row) : nullptr;
+  if (column < 0 || column >= GetColumnCount()) return nullptr;
+  return m_columns[column]->GetEntry(row);
 }
 
 void VornMonsterBox::FindRowColumn(VornControl* control, int& row, int& column) {
@@ -219,7 +224,8 @@ void VornMonsterBox::CheckForScroll() {
 }
 
 void VornMonsterBox::SetScrollPos(double v) {
-  ScrollContentTo(static_cast<int>((ContentHeight() - m_listHeight) * v));
+  // Content shorter than the panel never scrolls down.
+  ScrollContentTo(std::max(0, static_cast<int>((ContentHeight() - m_listHeight) * v)));
 }
 
 void VornMonsterBox::ScrollContentTo(int target) {
@@ -279,6 +285,24 @@ void VornMonsterBox::LocalLeftUp(wxMouseEvent&) {
 
 void VornMonsterBox::LocalLeftDClick(wxMouseEvent&) {}
 
+void VornMonsterBox::OnResizeCaptureLost(wxMouseCaptureLostEvent& event) {
+  m_bResizing = false;
+  VornWindow::OnMouseCaptureLost(event);
+}
+
+void VornMonsterBox::SetRowHeight(int h) {
+  if (h < 1 || h == m_rowHeight) return;
+  m_rowHeight = h;
+  for (auto& column : m_columns) column->LayoutEntries();
+  CheckForScroll();
+  if (m_pScrollBar && m_pScrollBar->IsVisible()) SetScrollPos(m_pScrollBar->GetSliderVal());
+}
+
+void VornMonsterBox::Resizable(bool resizable) {
+  m_bResizable = resizable;
+  Refresh(false);
+}
+
 void VornMonsterBox::SetSize(int w, int h) {
   VornWindow::SetSize(w, GetHeight());
   ApplyHeight(std::min(std::max(h, kMinHeight), m_maxHeight));
@@ -293,7 +317,8 @@ void VornMonsterBox::ApplyHeight(int height) {
   CheckForScroll();
   if (m_pScrollBar) {
     m_pScrollBar->SetWindowPos(GetWidth() - kBarWidth, 0, m_pScrollBar->GetWidth(), m_listHeight);
-    SetScrollPos(m_pScrollBar->GetSliderVal());
+    // A hidden bar keeps its last value: the rows fit and stay at the top.
+    if (m_pScrollBar->IsVisible()) SetScrollPos(m_pScrollBar->GetSliderVal());
   }
   for (VornPushButton* button : m_buttons)
     button->SetPosition(button->GetPosX(), m_listHeight + kButtonBelowList);

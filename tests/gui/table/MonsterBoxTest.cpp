@@ -117,15 +117,29 @@ TEST_F(MonsterBoxTest, GripResizeStopsAtBothClampsMovesButtonsAndSendsTheHint) {
   EXPECT_EQ(198, box->GetListHeight());
   EXPECT_EQ(198 + 45, button->GetPosY());
 
+  // Scrolled to the end, then grown until every row fits: the rows go back
+  // to the top and stay there on later drags.
+  AddRows(12);  // 180 pixels in a 198-pixel panel: fits
+  box->SetMaxSize(400);
+  DragGrip(-100);  // list height 98: the bar appears
+  ASSERT_TRUE(box->GetScrollBar() && box->GetScrollBar()->IsVisible());
+  box->GetScrollBar()->SetSliderVal(1.0, true);
+  EXPECT_EQ(180 - 98, box->GetScrollOffset());
+  DragGrip(150);
+  EXPECT_FALSE(box->GetScrollBar()->IsVisible());
+  DragGrip(10);
+  EXPECT_EQ(0, box->GetScrollOffset());
+  EXPECT_EQ(15, CellY(1, 0));
+
   // Away from the grip, or on a box that is not resizable, nothing happens.
   log.clear();
   Mouse(box, wxEVT_LEFT_DOWN, 40, 100);
   Mouse(box, wxEVT_MOTION, 40, 10);
   Mouse(box, wxEVT_LEFT_UP, 40, 10);
-  EXPECT_EQ(260, box->GetHeight());
+  EXPECT_EQ(320, box->GetHeight());
   box->Resizable(false);
   DragGrip(-50);
-  EXPECT_EQ(260, box->GetHeight());
+  EXPECT_EQ(320, box->GetHeight());
   EXPECT_EQ("", Joined(log));
 }
 
@@ -138,6 +152,17 @@ TEST_F(MonsterBoxTest, SetSizeResizesLikeTheGripAndSetsThePanelWidth) {
   EXPECT_EQ(wxSize(350, 13), box->GetPanel()->GetSize());
   EXPECT_EQ(389, box->GetScrollBar()->GetPosX());
   EXPECT_EQ(13, box->GetScrollBar()->GetHeight());
+}
+
+TEST_F(MonsterBoxTest, ANewRowHeightLaysTheRowsOutAgain) {
+  Make();
+  AddRows(9);
+  EXPECT_EQ(nullptr, box->GetScrollBar());
+  box->SetRowHeight(20);  // 180 > 139
+  EXPECT_EQ(40, CellY(2, 1));
+  EXPECT_EQ(20, box->GetRowColumnEntry(2, 1)->GetSize().y);
+  ASSERT_NE(nullptr, box->GetScrollBar());
+  EXPECT_DOUBLE_EQ(139.0 / 180.0, box->GetScrollBar()->GetFractionVal());
 }
 
 TEST_F(MonsterBoxTest, ButtonsLineUpSeparatedBySpacerWidth) {
@@ -255,6 +280,7 @@ TEST_F(MonsterBoxTest, InsertedRowsPushTheOthersDownAndReshadeThem) {
   EXPECT_EQ(14, box->GetRowColumnEntry(0, 0)->GetControl()->GetHeight());
   EXPECT_EQ(&b, box->GetLineData(1));
   EXPECT_EQ(&c, box->GetLineData(2));
+  EXPECT_EQ(box->GetRowColumnEntry(3, 1)->GetControl(), box->GetRowColumn(3, 1));
   EXPECT_EQ(nullptr, box->GetRowColumn(4, 0));
   EXPECT_EQ(nullptr, box->GetRowColumnEntry(0, 2));
 }
