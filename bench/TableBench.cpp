@@ -3,6 +3,7 @@
 // wxListCtrl holding the same rows, in time and in resident memory (read
 // from /proc/self/statm before and after each build).
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 #include <unistd.h>
 #include <wx/app.h>
 #include <wx/frame.h>
@@ -32,6 +33,16 @@ bool HaveDisplay(benchmark::State& state) {
   return false;
 }
 
+// Destroys frame and gives freed memory back to the system, so that the next
+// build's resident growth is its own.
+void TearDown(benchmark::State& state, wxFrame* frame) {
+  state.PauseTiming();
+  frame->Destroy();
+  wxTheApp->ProcessIdle();
+  malloc_trim(0);
+  state.ResumeTiming();
+}
+
 void ReportMemory(benchmark::State& state, long kb, int kRows) {
   state.counters["resident_kb"] = static_cast<double>(kb);
   state.counters["rows"] = kRows;
@@ -47,6 +58,7 @@ void BM_MonsterBoxBuild(benchmark::State& state) {
   long kb = 0;
   for (auto _ : state) {
     wxFrame* frame = new wxFrame(nullptr, wxID_ANY, "bench");
+    malloc_trim(0);
     const long before = ResidentKb();
     auto* box = new VornMonsterBox;
     VornString name = "bench";
@@ -60,10 +72,7 @@ void BM_MonsterBoxBuild(benchmark::State& state) {
       box->AddEntry(2, checks.get(), i % 2 == 0);
     }
     kb = ResidentKb() - before;
-    state.PauseTiming();
-    frame->Destroy();
-    wxTheApp->ProcessIdle();
-    state.ResumeTiming();
+    TearDown(state, frame);
   }
   ReportMemory(state, kb, kRows);
 }
@@ -74,6 +83,7 @@ void BM_ListCtrlBuild(benchmark::State& state) {
   long kb = 0;
   for (auto _ : state) {
     wxFrame* frame = new wxFrame(nullptr, wxID_ANY, "bench");
+    malloc_trim(0);
     const long before = ResidentKb();
     auto* list = new wxListCtrl(frame, wxID_ANY, wxPoint(0, 0), wxSize(400, 300), wxLC_REPORT);
     list->AppendColumn("Name", wxLIST_FORMAT_LEFT, 150);
@@ -85,10 +95,7 @@ void BM_ListCtrlBuild(benchmark::State& state) {
       list->SetItem(row, 2, i % 2 == 0 ? "x" : "");
     }
     kb = ResidentKb() - before;
-    state.PauseTiming();
-    frame->Destroy();
-    wxTheApp->ProcessIdle();
-    state.ResumeTiming();
+    TearDown(state, frame);
   }
   ReportMemory(state, kb, kRows);
 }

@@ -107,6 +107,15 @@ class TablesPage : public GalleryPage {
       LoggingGroup::ControlSelected(id, control);
       if (page) page->Selected(id, control);
     }
+    // The box's size hint carries no id: name it here, with the new height.
+    bool Update(unsigned int id, VornControl* source, VornControlHint* hint) override {
+      if (dynamic_cast<MonSizeChangeHint*>(hint) && source) {
+        m_log.Add(wxString::Format("Update  %s: MonSizeChangeHint (%d)", NameOf(source->GetId()),
+                                   source->GetHeight()));
+        return true;
+      }
+      return LoggingGroup::Update(id, source, hint);
+    }
     TablesPage* page = nullptr;
   };
 

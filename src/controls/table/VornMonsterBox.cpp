@@ -366,7 +366,8 @@ void VornMonsterBox::OnDraw(wxDC* dc) {
   wxMemoryDC mem(m_backBuffer);
   mem.SetBackground(wxBrush(GetBgColour()));
   mem.Clear();
-  if (m_pFrame) DrawStretched(mem, *m_pFrame, wxRect(0, 0, w, h), kFrameCorner);
+  // The scroll bar stands in its own column right of the frame.
+  if (m_pFrame) DrawStretched(mem, *m_pFrame, wxRect(0, 0, w - kBarWidth, h), kFrameCorner);
   const wxRect strip = HeadingRect();
   if (m_pHeading) DrawStretched(mem, *m_pHeading, strip, kHeadingCorner);
   for (auto& column : m_columns) {
@@ -384,11 +385,12 @@ void VornMonsterBox::OnDraw(wxDC* dc) {
 }
 
 void VornMonsterBox::DrawGrip(wxDC& dc) const {
-  // A triangle of 2 x 2 dots in the grip's bottom right corner.
+  // A triangle of 2 x 2 dots in the grip's bottom right corner, clear of
+  // the frame's edge and the bar's column.
   const wxRect g = GripRect();
   dc.SetPen(*wxTRANSPARENT_PEN);
   dc.SetBrush(wxBrush(m_separator));
   for (int row = 0; row < 3; ++row)
     for (int col = 2 - row; col < 3; ++col)
-      dc.DrawRectangle(g.x + 1 + 4 * col, g.y + 1 + 4 * row, 2, 2);
+      dc.DrawRectangle(g.x + 1 + 3 * col, g.y + 2 + 3 * row, 2, 2);
 }

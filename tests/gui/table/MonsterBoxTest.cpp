@@ -249,6 +249,7 @@ TEST_F(MonsterBoxTest, DrawsHeadingSeparatorsAndGrip) {
   EXPECT_EQ(kSep, ImagePixel(image, 12 + 119, 30));
   EXPECT_EQ(wxColour(60, 60, 60), ImagePixel(image, 12 + 60, 19));
   EXPECT_EQ(wxColour(30, 30, 30), ImagePixel(image, 2, 2));
+  EXPECT_NE(wxColour(30, 30, 30), ImagePixel(image, 300 - 5, 190));  // the bar's column
   const int withGrip = CountNear(Render(box, 300, 200), kSep, 0);
   box->Resizable(false);
   EXPECT_GT(withGrip, CountNear(Render(box, 300, 200), kSep, 0) + 10);
