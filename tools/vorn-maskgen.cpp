@@ -203,6 +203,32 @@ void ScrollThumbMasks(Writer& out) {
   out("scrollthumb_end.png", Fill(w, h, Segment(3, 35.5f, 7, 35.5f, 0.9f)));
 }
 
+// Multi-column box: the frame behind the whole box (stretched, corners kept),
+// the heading strip, the spacer between its buttons, a 13 x 13 check box and
+// 30 x 14 buttons with a plus or a minus.
+void TableMasks(Writer& out) {
+  {
+    const int s = 32;
+    const Mask shape = Fill(s, s, RoundRect(0, 0, s, s, 6));
+    const Mask body = Fill(s, s, RoundRect(1, 1, s - 1, s - 1, 5));
+    out("table_frame_shape.png", shape);
+    out("table_frame_border.png", Minus(shape, body));
+    out("table_frame_body.png", body);
+    out("table_frame_sheen.png", TopFade(body, 12, 0.08f));
+  }
+  RaisedFace(out, "table_heading", 32, 22, 3);
+  out("table_spacer_dot.png", Fill(7, 14, Circle(3.5f, 7, 1.4f)));
+  SunkenWell(out, "table_check", 13, 13, 3);
+  const Field tick =
+      Union(Segment(3.2f, 6.8f, 5.4f, 9.2f, 0.9f), Segment(5.4f, 9.2f, 9.8f, 3.6f, 0.9f));
+  out("table_check_tick.png", Fill(13, 13, tick));
+  RaisedFace(out, "table_button", 30, 14, 4);
+  const Field minus = Segment(11, 7, 19, 7, 0.9f);
+  const Field plus = Union(minus, Segment(15, 3, 15, 11, 0.9f));
+  out("table_button_plus.png", Fill(30, 14, plus));
+  out("table_button_minus.png", Fill(30, 14, minus));
+}
+
 // ---- instruments -------------------------------------------------------------
 
 Field UnionAll(const std::vector<Field>& parts) {
@@ -646,6 +672,7 @@ void Generate(Writer& out) {
   out("treefunc_glyph.png", Fill(18, 18, dots));
   out("treefunc_glyph_down.png", Fill(18, 18, [&](float x, float y) { return dots(x, y - 1); }));
   ScrollThumbMasks(out);
+  TableMasks(out);
   InstrumentMasks(out);
   ValueControlMasks(out);
   EditWidgetMasks(out);

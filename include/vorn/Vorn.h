@@ -23,6 +23,7 @@
 #include "vorn/VornValueNotify.h"
 #include "vorn/VornWindow.h"
 #include "vorn/VornSimpleScrollBar.h"
+#include "vorn/VornMonsterBox.h"
 #include "vorn/VornAngleControl.h"
 #include "vorn/VornGLWindow.h"
 #include "vorn/VornSlider.h"

@@ -4,6 +4,7 @@
 
 #include "VornScrollImages.h"
 #include "vorn/GraphicsFunctions.h"
+#include "vorn/VornMonsterBox.h"
 #include "vorn/VornSimpleScrollBar.h"
 #include "vornhost/Filter.h"
 
@@ -19,8 +20,7 @@ MonsterScrollBar::MonsterScrollBar(const wxBitmap*, const wxBitmap*, const wxBit
 }
 
 void MonsterScrollBar::OnSliderChange() {
-  // The box is only declared so far: it is scrolled here (SetScrollPos with
-  // the slider value) once its class joins the toolkit.
+  if (m_pBox) m_pBox->SetScrollPos(GetSliderVal());
 }
 
 void MonsterScrollBar::MakeButtonImages() {
