@@ -29,3 +29,4 @@
 #include "vorn/VornEdit.h"
 #include "vorn/VornMultiEdit.h"
 #include "vorn/VornListBox.h"
+#include "vorn/VornNode.h"

@@ -1,0 +1,67 @@
+// A leaf that wraps one parameter control.
+#include "TreeTexts.h"
+#include "vorn/VornAssert.h"
+#include "vorn/VornNode.h"
+
+using namespace vorn_tree;
+
+VornVUIControlNode::VornVUIControlNode(VornVUIControl* control, VornTreeNode* parent,
+                                       bool setDefaults)
+    : m_pControl(control) {
+  VORN_ASSERT_TEXT(control != nullptr, kControlNotNull);
+  VORN_ASSERT_TEXT(parent != nullptr, kParentNotNull);
+  if (!control || !parent) return;
+  control->SetVUIControlNode(this);
+  VornTreeRootNode* root = parent->GetRoot();
+  VornMainVUITreeControl* tree = root ? root->GetTreeControl() : nullptr;
+  if (setDefaults && root) {
+    control->SetBackgroundCol(root->GetBackgroundCol());
+    control->SetLineCol(root->GetLineCol());
+    if (tree) control->SetMouseOverCol(tree->GetMouseOverCol());
+  }
+  if (!control->GetHandle()) {
+    VornVUIControl* parentControl = parent->GetVornVUIControl();
+    if (parentControl) control->Create(parentControl, wxID_ANY, nullptr);
+  }
+  SetParent(parent);
+  SetVisible(parent->IsVisible());
+  if (root) root->Register(this);
+  if (tree && tree->GetGroup()) control->SetGroup(tree->GetGroup());
+}
+
+VornVUIControlNode::~VornVUIControlNode() {
+  VORN_ASSERT_TEXT(m_pControl != nullptr, kOwnedControlExists);
+  if (VornTreeRootNode* root = GetRoot()) root->Deregister(this);
+  if (m_pControl) m_pControl->SetVUIControlNode(nullptr);
+}
+
+int VornVUIControlNode::GetWidth() { return m_pControl ? m_pControl->GetMaxWidth() : 0; }
+
+int VornVUIControlNode::GetHeight() { return m_pControl ? m_pControl->GetMaxHeight() : 0; }
+
+int VornVUIControlNode::GetAllignmentPoint() {
+  return m_pControl ? m_pControl->GetAllignmentPt() : 0;
+}
+
+void VornVUIControlNode::SetDisplay(int x1, int y1, int x2, int y2) {
+  m_x1 = x1;
+  m_y1 = y1;
+  m_x2 = x2;
+  m_y2 = y2;
+}
+
+VornVUIControl* VornVUIControlNode::GetVornVUIControl() { return m_pControl.get(); }
+
+void VornVUIControlNode::Refresh() {
+  if (!m_pControl || !m_pControl->GetHandle()) return;
+  m_pControl->Show(IsVisible());
+  m_pControl->SetWindowPos(m_x1, m_y1, m_x2 - m_x1, m_y2 - m_y1);
+  m_pControl->wxWindow::Refresh(false);
+}
+
+void VornVUIControlNode::GetDisplay(int& x1, int& y1, int& x2, int& y2) const {
+  x1 = m_x1;
+  y1 = m_y1;
+  x2 = m_x2;
+  y2 = m_y2;
+}
