@@ -206,7 +206,7 @@ class VUITreeControlBase : public LButDisplayCallback, public VornVUIControl {
 class VUITreeSlider : public VUITreeControlBase, public RealVal, public IntVal {
  public:
   static constexpr int kWidth = 143;  // right of the alignment point
-  static constexpr int kSliderWidth = 60;
+  static constexpr int kSliderWidth = 58;
 
   VUITreeSlider(AssetManager* assetman, VornString name, bool functionable, double minimum,
                 double maximum, double value, bool integer = false);

@@ -10,12 +10,14 @@
 
 namespace {
 
-// The connector: the branch's line down the left edge, a stub to a small
-// circle, and the name after it.
+// The connector: a stub from the left edge (where the tree's own lines
+// meet the row) to a small circle, the name, and a leader from the name to
+// the alignment line.
 constexpr int kStubEnd = 4;
 constexpr int kCircleX = 7;
 constexpr int kCircleRadius = 2;
 constexpr int kNameX = 12;
+constexpr int kLeaderGap = 2;
 
 wxString FromUtf8(const VornString& text) {
   return wxString::FromUTF8(text.c_str());
@@ -65,9 +67,11 @@ void VUITreeControlBase::BuildLabel() {
     std::unique_ptr<Filter> f = CreateFilter(image);
     const ColorA line = CtoCA(GetLineCol());
     const int mid = h / 2;
-    DrawLine(*f, 0, 0, 0, h - 1, line);
     DrawLine(*f, 0, mid, kStubEnd, mid, line);
     DrawCircle(AntiAlias(*f), kCircleX, mid, kCircleRadius, line, false);
+    const int leader = kNameX + m_nameWidth + kLeaderGap;
+    if (leader < GetAllignmentPt() - kLeaderGap)
+      DrawLine(*f, leader, mid, GetAllignmentPt() - kLeaderGap, mid, line);
   }
   m_label = wxBitmap(image);
   wxMemoryDC dc(m_label);

@@ -99,7 +99,8 @@ TEST_F(TreeEditorsInTreeTest, LeavesTakeTheTreesColoursForTheirLabel) {
   EXPECT_EQ(PixelAt(drawn, box->GetAllignmentPt() + 60, 2), background);
   wxColour line;
   ASSERT_TRUE(Skin().GetColour("vuiedit_tree_fg", line));
-  EXPECT_EQ(PixelAt(drawn, 0, 2), line);  // the connector down the left edge
+  EXPECT_EQ(PixelAt(drawn, 0, 16), line);  // the stub the tree's lines meet
+  EXPECT_EQ(PixelAt(drawn, 0, 2), background);
 }
 
 }  // namespace
