@@ -292,7 +292,7 @@ class VornTreeRootNode : public VornTreeNode {
   int m_rx2 = 0;
   int m_ry1 = 0;
   int m_ry2 = 0;
-  AssetManager* m_pAssetManager = nullptr;            // not owned
+  AssetManager* m_pAssetManager = nullptr;           // not owned
   VornMainVUITreeControl* m_pTreeControl = nullptr;  // not owned
   int m_deregistered = 0;
 };
@@ -451,7 +451,7 @@ class VornVUIBranchControl : public VornVUIControl {
   VornString m_name;
   wxFont m_nameFont;
   wxColour m_nameColour;
-  int m_nameWidth = -1;  // -1 until measured
+  int m_nameWidth = -1;                 // -1 until measured
   VornBranchNode* m_pBranch = nullptr;  // not owned
   double m_topOffset = 20.0;
   double m_indent = 10.0;

@@ -8,8 +8,7 @@
 
 namespace vorn_tree {
 
-BranchHeaderGeometry ComputeBranchHeader(int alignment, int nameWidth, int nameHeight,
-                                         int width) {
+BranchHeaderGeometry ComputeBranchHeader(int alignment, int nameWidth, int nameHeight, int width) {
   BranchHeaderGeometry g;
   g.row = wxRect(0, 0, width, kHeaderRowHeight);
   g.toggle = wxRect(3, (kHeaderRowHeight - kToggleSize) / 2, kToggleSize, kToggleSize);

@@ -15,15 +15,16 @@ VornBranchNode::VornBranchNode(VornTreeNode* parent, VornString name) {
   m_pTree->SetParent(this);
   VornNode::SetVisible(parent->IsVisible());
   m_bExpanded = false;
-  m_pControl = std::make_unique<VornVUIBranchControl>(root ? root->GetAssetManager() : nullptr,
-                                                      name, this);
+  m_pControl =
+      std::make_unique<VornVUIBranchControl>(root ? root->GetAssetManager() : nullptr, name, this);
   if (root) {
     m_pControl->SetBackgroundCol(root->GetBackgroundCol());
     m_pControl->SetLineCol(root->GetLineCol());
     if (VornMainVUITreeControl* tree = root->GetTreeControl())
       m_pControl->SetMouseOverCol(tree->GetMouseOverCol());
   }
-  if (VornVUIControl* parentControl = parent->GetVornVUIControl())
+  VornVUIControl* parentControl = parent->GetVornVUIControl();
+  if (parentControl && parentControl->GetHandle())
     m_pControl->Create(parentControl, wxID_ANY, nullptr);
 }
 
@@ -37,9 +38,13 @@ VornBranchNode::~VornBranchNode() {
 
 // ---- layout ------------------------------------------------------------------
 
-int VornBranchNode::GetWidth() { return m_pControl ? m_pControl->GetMaxWidth() : 0; }
+int VornBranchNode::GetWidth() {
+  return m_pControl ? m_pControl->GetMaxWidth() : 0;
+}
 
-int VornBranchNode::GetHeight() { return m_pControl ? m_pControl->GetMaxHeight() : 0; }
+int VornBranchNode::GetHeight() {
+  return m_pControl ? m_pControl->GetMaxHeight() : 0;
+}
 
 int VornBranchNode::GetAllignmentPoint() {
   return m_pControl ? m_pControl->GetAllignmentPt() : 0;
@@ -80,7 +85,9 @@ void VornBranchNode::SetVisible(bool visible) {
   m_pTree->SetVisible(visible && m_bExpanded);
 }
 
-VornVUIControl* VornBranchNode::GetVornVUIControl() { return m_pControl.get(); }
+VornVUIControl* VornBranchNode::GetVornVUIControl() {
+  return m_pControl.get();
+}
 
 void VornBranchNode::Refresh() {
   VORN_ASSERT_TEXT(m_pControl && m_pControl->GetHandle() != nullptr, kWindowExists);
@@ -114,9 +121,13 @@ void VornBranchNode::Col() {
   m_pTree->SetVisible(false);
 }
 
-void VornBranchNode::Expand() { Exp(); }
+void VornBranchNode::Expand() {
+  Exp();
+}
 
-void VornBranchNode::Collapse() { Col(); }
+void VornBranchNode::Collapse() {
+  Col();
+}
 
 void VornBranchNode::Toggle() {
   if (m_bExpanded)

@@ -27,10 +27,9 @@ C ReadColour(AssetManager* assets, const char* name) {
 }  // namespace
 
 wxBEGIN_EVENT_TABLE(VornMainVUITreeControl, VornControl)
-  EVT_MOUSEWHEEL(VornMainVUITreeControl::OnWheel)
-wxEND_EVENT_TABLE()
+    EVT_MOUSEWHEEL(VornMainVUITreeControl::OnWheel) wxEND_EVENT_TABLE()
 
-VornMainVUITreeControl::VornMainVUITreeControl() = default;
+        VornMainVUITreeControl::VornMainVUITreeControl() = default;
 
 VornMainVUITreeControl::~VornMainVUITreeControl() {
   // The tree's windows are children of this one: they go before wx deletes
@@ -125,8 +124,8 @@ void VornMainVUITreeControl::ScrollBy(double pixels) {
   if (!m_pRoot || !m_pScrollBar) return;
   const int range = m_pRoot->GetHeight() - m_pRoot->GetRootControl()->GetHeight();
   if (range <= 0) return;
-  m_pScrollBar->SetSliderVal(
-      std::clamp(m_pScrollBar->GetSliderVal() + pixels / range, 0.0, 1.0), true);
+  m_pScrollBar->SetSliderVal(std::clamp(m_pScrollBar->GetSliderVal() + pixels / range, 0.0, 1.0),
+                             true);
 }
 
 void VornMainVUITreeControl::OnWheel(wxMouseEvent& event) {

@@ -5,12 +5,20 @@ VornNode::VornNode() = default;
 
 VornNode::~VornNode() = default;
 
-void VornNode::GetNodeFromPoint(VornNode*& out, int, int) { out = this; }
+void VornNode::GetNodeFromPoint(VornNode*& out, int, int) {
+  out = this;
+}
 
-void VornNode::SetVisible(bool visible) { m_bVisible = visible; }
+void VornNode::SetVisible(bool visible) {
+  m_bVisible = visible;
+}
 
-VornTreeRootNode* VornNode::GetRoot() { return m_pParent ? m_pParent->GetRoot() : nullptr; }
+VornTreeRootNode* VornNode::GetRoot() {
+  return m_pParent ? m_pParent->GetRoot() : nullptr;
+}
 
 VornLeafNode::~VornLeafNode() = default;
 
-void VornLeafNode::SetPosition(POSITION position) { m_position = position; }
+void VornLeafNode::SetPosition(POSITION position) {
+  m_position = position;
+}

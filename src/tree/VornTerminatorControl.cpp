@@ -12,11 +12,17 @@ constexpr int kSize = 40;
 
 VornTerminatorControl::~VornTerminatorControl() = default;
 
-int VornTerminatorControl::GetAllignmentPt() { return kAlignment; }
+int VornTerminatorControl::GetAllignmentPt() {
+  return kAlignment;
+}
 
-int VornTerminatorControl::GetMaxWidth() { return kSize; }
+int VornTerminatorControl::GetMaxWidth() {
+  return kSize;
+}
 
-int VornTerminatorControl::GetMaxHeight() { return kSize; }
+int VornTerminatorControl::GetMaxHeight() {
+  return kSize;
+}
 
 void VornTerminatorControl::OnDraw(wxDC* dc) {
   if (!dc) return;

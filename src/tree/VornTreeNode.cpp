@@ -7,7 +7,9 @@
 
 using namespace vorn_tree;
 
-VornTreeNode::~VornTreeNode() { DeleteAllLeafNodes(); }
+VornTreeNode::~VornTreeNode() {
+  DeleteAllLeafNodes();
+}
 
 // ---- layout ------------------------------------------------------------------
 
@@ -19,7 +21,8 @@ int VornTreeNode::GetHeight() {
 
 int VornTreeNode::GetAllignmentPoint() {
   int alignment = 0;
-  for (VornLeafNode* child : m_children) alignment = std::max(alignment, child->GetAllignmentPoint());
+  for (VornLeafNode* child : m_children)
+    alignment = std::max(alignment, child->GetAllignmentPoint());
   return alignment;
 }
 
@@ -108,9 +111,13 @@ void VornTreeNode::Detach(VornLeafNode* leaf) {
   leaf->SetPosition(VornLeafNode::P_NONE);
 }
 
-bool VornTreeNode::AddToBegin(VornLeafNode* leaf) { return AddAtPosition(leaf, 0); }
+bool VornTreeNode::AddToBegin(VornLeafNode* leaf) {
+  return AddAtPosition(leaf, 0);
+}
 
-bool VornTreeNode::AddToEnd(VornLeafNode* leaf) { return AddAtPosition(leaf, GetSize()); }
+bool VornTreeNode::AddToEnd(VornLeafNode* leaf) {
+  return AddAtPosition(leaf, GetSize());
+}
 
 bool VornTreeNode::AddAtPosition(VornLeafNode* leaf, int pos) {
   if (!leaf || pos < 0 || pos > GetSize()) return false;
@@ -120,7 +127,9 @@ bool VornTreeNode::AddAtPosition(VornLeafNode* leaf, int pos) {
   return true;
 }
 
-bool VornTreeNode::RemoveFromBegin(VornLeafNode*& leaf) { return RemoveAtPosition(leaf, 0); }
+bool VornTreeNode::RemoveFromBegin(VornLeafNode*& leaf) {
+  return RemoveAtPosition(leaf, 0);
+}
 
 bool VornTreeNode::RemoveFromEnd(VornLeafNode*& leaf) {
   return RemoveAtPosition(leaf, GetSize() - 1);

@@ -28,11 +28,17 @@ void VornTreeRootNode::SetTreeControl(VornMainVUITreeControl* tree) {
   if (tree && !m_pRootControl->GetHandle()) m_pRootControl->Create(tree, wxID_ANY, nullptr);
 }
 
-Color VornTreeRootNode::GetBackgroundCol() const { return m_pRootControl->GetBackgroundCol(); }
+Color VornTreeRootNode::GetBackgroundCol() const {
+  return m_pRootControl->GetBackgroundCol();
+}
 
-Color VornTreeRootNode::GetLineCol() const { return m_pRootControl->GetLineCol(); }
+Color VornTreeRootNode::GetLineCol() const {
+  return m_pRootControl->GetLineCol();
+}
 
-VornVUIControl* VornTreeRootNode::GetVornVUIControl() { return m_pRootControl.get(); }
+VornVUIControl* VornTreeRootNode::GetVornVUIControl() {
+  return m_pRootControl.get();
+}
 
 // ---- the registry ------------------------------------------------------------------
 
@@ -48,10 +54,9 @@ void VornTreeRootNode::Deregister(VornNode* node) {
   // Ids grow with registration, so the registry is sorted by id; a slot is
   // cleared rather than erased so that deleting many nodes stays linear.
   const int id = node->GetNodeID();
-  const auto it = std::lower_bound(m_registry.begin(), m_registry.end(), id,
-                                   [](VornNode* entry, int wanted) {
-                                     return entry == nullptr || entry->GetNodeID() < wanted;
-                                   });
+  const auto it = std::lower_bound(
+      m_registry.begin(), m_registry.end(), id,
+      [](VornNode* entry, int wanted) { return entry == nullptr || entry->GetNodeID() < wanted; });
   auto slot = std::find(it, m_registry.end(), node);
   if (slot == m_registry.end()) slot = std::find(m_registry.begin(), m_registry.end(), node);
   if (slot == m_registry.end()) return;
@@ -81,13 +86,21 @@ VornNode* VornTreeRootNode::GetNodeFromVornControlID(int id) {
 
 // ---- alignment and layout -------------------------------------------------------------
 
-void VornTreeRootNode::ResetAllign(int alignment) { m_rootAllignment = alignment; }
+void VornTreeRootNode::ResetAllign(int alignment) {
+  m_rootAllignment = alignment;
+}
 
-int VornTreeRootNode::GetRealTreeAllign() { return VornTreeNode::GetAllignmentPoint(); }
+int VornTreeRootNode::GetRealTreeAllign() {
+  return VornTreeNode::GetAllignmentPoint();
+}
 
-int VornTreeRootNode::GetRealTreeWidth() { return VornTreeNode::GetWidth(); }
+int VornTreeRootNode::GetRealTreeWidth() {
+  return VornTreeNode::GetWidth();
+}
 
-int VornTreeRootNode::GetAllignmentPoint() { return m_rootAllignment; }
+int VornTreeRootNode::GetAllignmentPoint() {
+  return m_rootAllignment;
+}
 
 int VornTreeRootNode::GetWidth() {
   return m_rootAllignment - GetRealTreeAllign() + GetRealTreeWidth();

@@ -35,12 +35,12 @@ bool VornVUIBranchControl::Create(wxWindow* parent, int id, VornControlGroup* gr
   Asset* asset = nullptr;
   if (m_pAssetManager && m_pAssetManager->GetAsset(kToggleImages, asset))
     m_pAssetManager->LoadImagesCached(kToggleImages, images);
-  const BranchHeaderGeometry g = ComputeBranchHeader(GetAllignmentPt(), GetNameWidth(), 0,
-                                                     GetMaxWidth());
+  const BranchHeaderGeometry g =
+      ComputeBranchHeader(GetAllignmentPt(), GetNameWidth(), 0, GetMaxWidth());
   m_pToggleGroup = std::make_unique<VornControlGroup>();
   m_pToggle = std::make_unique<VornBranchToggleButton>(m_pBranch);
-  m_pToggle->Create(images, g.toggle.x, g.toggle.y, g.toggle.width, g.toggle.height, this,
-                    wxID_ANY, m_pToggleGroup.get());
+  m_pToggle->Create(images, g.toggle.x, g.toggle.y, g.toggle.width, g.toggle.height, this, wxID_ANY,
+                    m_pToggleGroup.get());
   m_pToggle->SetOn(m_pBranch && m_pBranch->IsExpanded());
   return true;
 }
@@ -62,7 +62,9 @@ int VornVUIBranchControl::GetNameWidth() {
   return m_nameWidth;
 }
 
-int VornVUIBranchControl::GetAllignmentPt() { return GetNameWidth() + 20; }
+int VornVUIBranchControl::GetAllignmentPt() {
+  return GetNameWidth() + 20;
+}
 
 int VornVUIBranchControl::GetTreeOffsetX() {
   return static_cast<int>(GetAllignmentPt() + m_indent);
@@ -75,7 +77,8 @@ int VornVUIBranchControl::GetTreeOffsetY() {
 int VornVUIBranchControl::GetMaxWidth() {
   const int collapsed = static_cast<int>(GetAllignmentPt() + m_indent + m_rightMargin);
   if (!m_pBranch || !m_pBranch->IsExpanded()) return collapsed;
-  const int open = static_cast<int>(m_pBranch->GetTree()->GetWidth() + GetAllignmentPt() + m_indent);
+  const int open =
+      static_cast<int>(m_pBranch->GetTree()->GetWidth() + GetAllignmentPt() + m_indent);
   return std::max(collapsed, open);
 }
 

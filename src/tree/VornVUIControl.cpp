@@ -2,12 +2,10 @@
 // row highlight.
 #include "vorn/VornNode.h"
 
-wxBEGIN_EVENT_TABLE(VornVUIControl, VornControl)
-  EVT_ENTER_WINDOW(VornVUIControl::OnRowEnter)
-  EVT_LEAVE_WINDOW(VornVUIControl::OnRowLeave)
-wxEND_EVENT_TABLE()
+wxBEGIN_EVENT_TABLE(VornVUIControl, VornControl) EVT_ENTER_WINDOW(VornVUIControl::OnRowEnter)
+    EVT_LEAVE_WINDOW(VornVUIControl::OnRowLeave) wxEND_EVENT_TABLE()
 
-VornVUIControl::VornVUIControl() = default;
+        VornVUIControl::VornVUIControl() = default;
 
 VornVUIControl::~VornVUIControl() = default;
 

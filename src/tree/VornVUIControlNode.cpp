@@ -21,7 +21,8 @@ VornVUIControlNode::VornVUIControlNode(VornVUIControl* control, VornTreeNode* pa
   }
   if (!control->GetHandle()) {
     VornVUIControl* parentControl = parent->GetVornVUIControl();
-    if (parentControl) control->Create(parentControl, wxID_ANY, nullptr);
+    if (parentControl && parentControl->GetHandle())
+      control->Create(parentControl, wxID_ANY, nullptr);
   }
   SetParent(parent);
   SetVisible(parent->IsVisible());
@@ -35,9 +36,13 @@ VornVUIControlNode::~VornVUIControlNode() {
   if (m_pControl) m_pControl->SetVUIControlNode(nullptr);
 }
 
-int VornVUIControlNode::GetWidth() { return m_pControl ? m_pControl->GetMaxWidth() : 0; }
+int VornVUIControlNode::GetWidth() {
+  return m_pControl ? m_pControl->GetMaxWidth() : 0;
+}
 
-int VornVUIControlNode::GetHeight() { return m_pControl ? m_pControl->GetMaxHeight() : 0; }
+int VornVUIControlNode::GetHeight() {
+  return m_pControl ? m_pControl->GetMaxHeight() : 0;
+}
 
 int VornVUIControlNode::GetAllignmentPoint() {
   return m_pControl ? m_pControl->GetAllignmentPt() : 0;
@@ -50,7 +55,9 @@ void VornVUIControlNode::SetDisplay(int x1, int y1, int x2, int y2) {
   m_y2 = y2;
 }
 
-VornVUIControl* VornVUIControlNode::GetVornVUIControl() { return m_pControl.get(); }
+VornVUIControl* VornVUIControlNode::GetVornVUIControl() {
+  return m_pControl.get();
+}
 
 void VornVUIControlNode::Refresh() {
   if (!m_pControl || !m_pControl->GetHandle()) return;

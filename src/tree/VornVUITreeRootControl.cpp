@@ -7,18 +7,24 @@
 using namespace vorn_tree;
 
 wxBEGIN_EVENT_TABLE(VornVUITreeRootControl, VornVUIControl)
-  EVT_MOUSEWHEEL(VornVUITreeRootControl::OnWheel)
-wxEND_EVENT_TABLE()
+    EVT_MOUSEWHEEL(VornVUITreeRootControl::OnWheel) wxEND_EVENT_TABLE()
 
-VornVUITreeRootControl::VornVUITreeRootControl(VornTreeRootNode* root) : m_pRoot(root) {}
+        VornVUITreeRootControl::VornVUITreeRootControl(VornTreeRootNode* root)
+    : m_pRoot(root) {}
 
 VornVUITreeRootControl::~VornVUITreeRootControl() = default;
 
-int VornVUITreeRootControl::GetAllignmentPt() { return m_pRoot->GetAllignmentPoint(); }
+int VornVUITreeRootControl::GetAllignmentPt() {
+  return m_pRoot->GetAllignmentPoint();
+}
 
-int VornVUITreeRootControl::GetMaxWidth() { return m_pRoot->GetWidth(); }
+int VornVUITreeRootControl::GetMaxWidth() {
+  return m_pRoot->GetWidth();
+}
 
-int VornVUITreeRootControl::GetMaxHeight() { return m_pRoot->GetHeight(); }
+int VornVUITreeRootControl::GetMaxHeight() {
+  return m_pRoot->GetHeight();
+}
 
 VornMainVUITreeControl* VornVUITreeRootControl::FindTreeControl() {
   return m_pRoot->GetTreeControl();
