@@ -30,3 +30,4 @@
 #include "vorn/VornMultiEdit.h"
 #include "vorn/VornListBox.h"
 #include "vorn/VornNode.h"
+#include "vorn/VUIControls.h"
