@@ -70,6 +70,12 @@ class VornNode {
   bool IsVisible() const { return m_bVisible; }
 
  protected:
+  // How far the window of a child of parent is shifted from its layout
+  // place: the scroll position for children of the root, else 0.
+  static int WindowShiftOf(VornNode* parent);
+  // Moves and sizes a window, unless it is already there.
+  static void PlaceWindow(VornControl* control, int x, int y, int w, int h);
+
   int m_nodeID = -1;              // -1 until registered
   VornNode* m_pParent = nullptr;  // not owned
   bool m_bVisible = false;
@@ -100,9 +106,12 @@ class VornVUIControlNode : public VornLeafNode {
  public:
   // --- construction
   // setDefaults copies the tree's background, line and mouse-over colours
-  // into the control. Creates the control's window under the parent's
-  // control when it has none, registers with the root and binds the control
-  // to the tree control's group. Does not insert itself into parent's list.
+  // into the control. Gives the control a window under the parent's control
+  // when it has none, registers with the root and binds the control to the
+  // tree control's group. Does not insert itself into parent's list.
+  // Under a hidden level (a closed branch) the window is made when the node
+  // is first shown: the control gets its window id now and must accept its
+  // value calls before Create.
   VornVUIControlNode(VornVUIControl* control, VornTreeNode* parent, bool setDefaults);
   // Deletes the control.
   ~VornVUIControlNode() override;
@@ -119,6 +128,10 @@ class VornVUIControlNode : public VornLeafNode {
   void GetDisplay(int& x1, int& y1, int& x2, int& y2) const;
 
  protected:
+  // Makes the control's window under the parent's control (the node made
+  // none while its level was hidden); false when the parent has no window.
+  bool CreateWindow();
+
   std::unique_ptr<VornVUIControl> m_pControl;
   int m_x1 = 0;
   int m_x2 = 0;
@@ -498,6 +511,9 @@ class VornMainVUITreeControl : public VornControl {
   void SetTreeSize(int w, int h);
   // Stores the scroll position (pixels) without scrolling.
   void SetScrollPos(int pos) { m_scrollPos = pos; }
+  // The position Update would scroll to for the bar's value and the tree's
+  // height now.
+  int GetTargetScrollPos();
   int GetScrollPos() const { return m_scrollPos; }
   // Shows or hides the scroll bar and scrolls the tree to the bar's value.
   void Update() override;

@@ -92,8 +92,13 @@ VornVUIControl* VornBranchNode::GetVornVUIControl() {
 void VornBranchNode::Refresh() {
   VORN_ASSERT_TEXT(m_pControl && m_pControl->GetHandle() != nullptr, kWindowExists);
   if (!m_pControl || !m_pControl->GetHandle()) return;
-  m_pControl->Show(IsVisible());
-  m_pControl->SetWindowPos(m_x1, m_y1, m_x2 - m_x1, m_y2 - m_y1);
+  if (!IsVisible()) {
+    // Its sub-tree is hidden with it and placed when shown again.
+    if (m_pControl->IsShown()) m_pControl->Show(false);
+    return;
+  }
+  PlaceWindow(m_pControl.get(), m_x1, m_y1 - WindowShiftOf(m_pParent), m_x2 - m_x1, m_y2 - m_y1);
+  if (!m_pControl->IsShown()) m_pControl->Show(true);
   m_pControl->wxWindow::Refresh(false);
   m_pTree->Refresh();
 }

@@ -116,6 +116,15 @@ void VornMainVUITreeControl::Update() {
   }
 }
 
+int VornMainVUITreeControl::GetTargetScrollPos() {
+  if (!m_pRoot || !m_pScrollBar) return 0;
+  const int treeHeight = m_pRoot->GetHeight();
+  const int viewHeight = m_pRoot->GetRootControl()->GetHeight();
+  // Update shows a hidden bar at the top.
+  if (treeHeight <= viewHeight || !m_pScrollBar->IsVisible()) return 0;
+  return static_cast<int>(m_pScrollBar->GetSliderVal() * (treeHeight - viewHeight) + 0.5);
+}
+
 void VornMainVUITreeControl::RefreshTree() {
   if (m_pRoot) m_pRoot->Refresh();
 }

@@ -1,4 +1,6 @@
 // The node base and the leaf base.
+#include <wx/gdicmn.h>
+
 #include "vorn/VornNode.h"
 
 VornNode::VornNode() = default;
@@ -15,6 +17,19 @@ void VornNode::SetVisible(bool visible) {
 
 VornTreeRootNode* VornNode::GetRoot() {
   return m_pParent ? m_pParent->GetRoot() : nullptr;
+}
+
+int VornNode::WindowShiftOf(VornNode* parent) {
+  VornTreeRootNode* root = parent ? parent->GetRoot() : nullptr;
+  if (!root || root != parent || !root->GetTreeControl()) return 0;
+  return root->GetTreeControl()->GetScrollPos();
+}
+
+void VornNode::PlaceWindow(VornControl* control, int x, int y, int w, int h) {
+  // Compared with where wx has the window: a scroll moves the root's
+  // children without telling their stored geometry.
+  if (control->wxWindow::GetRect() == wxRect(x, y, w, h)) return;
+  control->SetWindowPos(x, y, w, h);
 }
 
 VornLeafNode::~VornLeafNode() = default;

@@ -125,14 +125,14 @@ void VornTreeRootNode::Refresh() {
   if (!m_pRootControl->GetHandle()) return;
   SetDisplay(m_rx1, m_ry1, m_rx2, m_ry2);
   m_pRootControl->Show(IsVisible());
-  m_pRootControl->SetWindowPos(m_rx1, m_ry1, m_rx2 - m_rx1, m_ry2 - m_ry1);
+  PlaceWindow(m_pRootControl.get(), m_rx1, m_ry1, m_rx2 - m_rx1, m_ry2 - m_ry1);
   const bool wasShown = m_pRootControl->IsVisible();
   // Hidden while the children move, so they do not repaint one by one.
   m_pRootControl->Show(false);
+  // The children go straight to where the scroll bar shows them, so that a
+  // window whose place did not change is not moved.
+  if (m_pTreeControl) m_pTreeControl->SetScrollPos(m_pTreeControl->GetTargetScrollPos());
   VornTreeNode::Refresh();
-  if (m_pTreeControl) {
-    m_pTreeControl->SetScrollPos(0);
-    m_pTreeControl->Update();
-  }
+  if (m_pTreeControl) m_pTreeControl->Update();
   m_pRootControl->Show(wasShown);
 }

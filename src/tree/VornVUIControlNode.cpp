@@ -19,12 +19,15 @@ VornVUIControlNode::VornVUIControlNode(VornVUIControl* control, VornTreeNode* pa
     control->SetLineCol(root->GetLineCol());
     if (tree) control->SetMouseOverCol(tree->GetMouseOverCol());
   }
-  if (!control->GetHandle()) {
-    VornVUIControl* parentControl = parent->GetVornVUIControl();
-    if (parentControl && parentControl->GetHandle())
-      control->Create(parentControl, wxID_ANY, nullptr);
-  }
   SetParent(parent);
+  if (!control->GetHandle()) {
+    // A hidden level's leaves are nodes only until first shown; the id is
+    // taken now so that the node can be found by it.
+    if (parent->IsVisible())
+      CreateWindow();
+    else if (control->GetId() == wxID_ANY)
+      control->SetId(wxWindow::NewControlId());
+  }
   SetVisible(parent->IsVisible());
   if (root) root->Register(this);
   if (tree && tree->GetGroup()) control->SetGroup(tree->GetGroup());
@@ -59,10 +62,26 @@ VornVUIControl* VornVUIControlNode::GetVornVUIControl() {
   return m_pControl.get();
 }
 
+bool VornVUIControlNode::CreateWindow() {
+  VornVUIControl* parentControl = m_pParent ? m_pParent->GetVornVUIControl() : nullptr;
+  if (!parentControl || !parentControl->GetHandle()) return false;
+  // Creating resets the control's group: it leaves the group and joins it
+  // again through Create, under the same id.
+  VornControlGroup* group = m_pControl->GetGroup();
+  if (group) group->DeRegister(static_cast<unsigned int>(m_pControl->GetId()), true);
+  return m_pControl->Create(parentControl, m_pControl->GetId(), group);
+}
+
 void VornVUIControlNode::Refresh() {
-  if (!m_pControl || !m_pControl->GetHandle()) return;
-  m_pControl->Show(IsVisible());
-  m_pControl->SetWindowPos(m_x1, m_y1, m_x2 - m_x1, m_y2 - m_y1);
+  if (!m_pControl) return;
+  if (!m_pControl->GetHandle() && (!IsVisible() || !CreateWindow())) return;
+  if (!IsVisible()) {
+    // A hidden window keeps its old place until it is shown again.
+    if (m_pControl->IsShown()) m_pControl->Show(false);
+    return;
+  }
+  PlaceWindow(m_pControl.get(), m_x1, m_y1 - WindowShiftOf(m_pParent), m_x2 - m_x1, m_y2 - m_y1);
+  if (!m_pControl->IsShown()) m_pControl->Show(true);
   m_pControl->wxWindow::Refresh(false);
 }
 

@@ -26,7 +26,11 @@ TEST(TreeControl, ToggleButtonExpandsCollapsesAndRefreshesTheRoot) {
   f.tree->RefreshTree();
   PumpEvents();
   EXPECT_EQ(OnScreen(f, below).y, 36);
-  EXPECT_FALSE(inner->GetVornVUIControl()->IsShown());
+  // A closed branch's leaves get their windows when first shown, under the
+  // id they were given at once.
+  EXPECT_EQ(inner->GetVornVUIControl()->GetHandle(), nullptr);
+  const int innerId = inner->GetVornVUIControl()->GetId();
+  EXPECT_EQ(f.Root()->GetNodeFromVornControlID(innerId), inner);
 
   VornBranchToggleButton* toggle = b->GetBranchControl()->GetToggleButton();
   Click(toggle);
@@ -37,6 +41,8 @@ TEST(TreeControl, ToggleButtonExpandsCollapsesAndRefreshesTheRoot) {
   EXPECT_EQ(OnScreen(f, below).y, 138);
   EXPECT_TRUE(inner->GetVornVUIControl()->IsShownOnScreen());
   EXPECT_EQ(OnScreen(f, inner).y, 38);
+  EXPECT_EQ(inner->GetVornVUIControl()->GetId(), innerId);
+  EXPECT_EQ(inner->GetVornVUIControl()->GetGroup(), &f.group);
 
   Click(toggle);
   PumpEvents();
