@@ -24,6 +24,7 @@
 #include "vorn/AssetManager.h"
 #include "vorn/FileAsset.h"
 #include "vorn/GraphicsFunctions.h"
+#include "vorn/VUIControls.h"
 #include "vorn/VornButton.h"
 #include "vorn/VornEdit.h"
 #include "vorn/VornNode.h"
@@ -87,11 +88,13 @@ void Paint(wxWindow* frame) {
 
 enum class Kind { Slider, Check, IntText, StringText };
 
-Kind KindOf(int leaf) { return static_cast<Kind>(leaf % 4); }
+Kind KindOf(int leaf) {
+  return static_cast<Kind>(leaf % 4);
+}
 
 std::string LeafName(int leaf) {
-  static const char* kNames[] = {"Roughness", "Visible",   "Samples", "Label",  "Opacity",
-                                 "Cast shadows", "Layer", "Comment", "Intensity", "Locked"};
+  static const char* kNames[] = {"Roughness",    "Visible", "Samples", "Label",     "Opacity",
+                                 "Cast shadows", "Layer",   "Comment", "Intensity", "Locked"};
   return kNames[leaf];
 }
 
@@ -124,9 +127,12 @@ class StandInLeaf : public VornVUIControl {
   int GetMaxWidth() override {
     const int a = GetAllignmentPt();
     switch (m_kind) {
-      case Kind::Slider: return a + 143;
-      case Kind::Check: return a + 103;
-      default: return a + 15 + 60;
+      case Kind::Slider:
+        return a + 143;
+      case Kind::Check:
+        return a + 103;
+      default:
+        return a + 15 + 60;
     }
   }
   int GetMaxHeight() override { return 32; }
@@ -162,7 +168,23 @@ class StandInLeaf : public VornVUIControl {
   std::unique_ptr<VornButtonToggle> m_toggle;
 };
 
-VornVUIControl* MakeLeaf(int leaf) { return new StandInLeaf(KindOf(leaf), LeafName(leaf)); }
+// The tree's own editors (false: the stand-ins above).
+bool g_realEditors = false;
+
+VornVUIControl* MakeLeaf(int leaf) {
+  if (!g_realEditors) return new StandInLeaf(KindOf(leaf), LeafName(leaf));
+  const VornString name = LeafName(leaf);
+  switch (KindOf(leaf)) {
+    case Kind::Slider:
+      return new VUITreeSlider(&Skin(), name, false, 0.0, 1.0, 0.5);
+    case Kind::Check:
+      return new VUITreeCheckBox(&Skin(), name, false, true);
+    case Kind::IntText:
+      return new VUITreeTextEdits(&Skin(), name, false, VUITreeTextEdits::PT_INT);
+    default:
+      return new VUITreeTextEdits(&Skin(), name, false, VUITreeTextEdits::PT_STRING);
+  }
+}
 
 // ---- the two contenders ------------------------------------------------------------
 
@@ -240,10 +262,18 @@ class GridSetup {
         const wxString name = wxString::Format("p%d_%d", b, l);
         wxPGProperty* p = nullptr;
         switch (KindOf(l)) {
-          case Kind::Slider: p = new wxFloatProperty(label, name, 0.5); break;
-          case Kind::Check: p = new wxBoolProperty(label, name, true); break;
-          case Kind::IntText: p = new wxIntProperty(label, name, 7); break;
-          case Kind::StringText: p = new wxStringProperty(label, name, "text"); break;
+          case Kind::Slider:
+            p = new wxFloatProperty(label, name, 0.5);
+            break;
+          case Kind::Check:
+            p = new wxBoolProperty(label, name, true);
+            break;
+          case Kind::IntText:
+            p = new wxIntProperty(label, name, 7);
+            break;
+          case Kind::StringText:
+            p = new wxStringProperty(label, name, "text");
+            break;
         }
         grid->AppendIn(category, p);
       }
@@ -254,9 +284,7 @@ class GridSetup {
   }
   ~GridSetup() { delete frame; }
 
-  wxPGProperty* Category(int i) {
-    return grid->GetPropertyByName(wxString::Format("Group %d", i));
-  }
+  wxPGProperty* Category(int i) { return grid->GetPropertyByName(wxString::Format("Group %d", i)); }
   void ScrollTo(double value) {
     int unitX = 1, unitY = 1;
     grid->GetScrollPixelsPerUnit(&unitX, &unitY);
@@ -281,9 +309,10 @@ void MemoryCounters(benchmark::State& state, Setup& s) {
 
 // ---- figures -------------------------------------------------------------------------
 
-template <class Setup>
+template <class Setup, bool kReal = false>
 void BM_Build(benchmark::State& state) {
   if (!HaveDisplay(state)) return;
+  g_realEditors = kReal;
   bool first = true;
   for (auto _ : state) {
     auto s = std::make_unique<Setup>();
@@ -295,8 +324,10 @@ void BM_Build(benchmark::State& state) {
   }
 }
 
+template <bool kReal>
 void BM_TreeExpand(benchmark::State& state) {
   if (!HaveDisplay(state)) return;
+  g_realEditors = kReal;
   TreeSetup s;
   s.ScrollTo(0.5);
   VornBranchNode* branch = s.Branch(kBranches / 2);
@@ -308,8 +339,10 @@ void BM_TreeExpand(benchmark::State& state) {
   }
 }
 
+template <bool kReal>
 void BM_TreeCollapse(benchmark::State& state) {
   if (!HaveDisplay(state)) return;
+  g_realEditors = kReal;
   TreeSetup s;
   s.ScrollTo(0.5);
   VornBranchNode* branch = s.Branch(kBranches / 2);
@@ -353,9 +386,10 @@ void BM_GridCollapse(benchmark::State& state) {
 
 // One step of 100 from top to bottom; the tree (or grid) collapsed, or with
 // every branch open.
-template <class Setup, bool kOpen>
+template <class Setup, bool kOpen, bool kReal = false>
 void BM_ScrollStep(benchmark::State& state) {
   if (!HaveDisplay(state)) return;
+  g_realEditors = kReal;
   Setup s;
   if (kOpen) {
     if constexpr (std::is_same_v<Setup, TreeSetup>)
@@ -378,35 +412,50 @@ void BM_ScrollStep(benchmark::State& state) {
 
 }  // namespace
 
-BENCHMARK(BM_Build<TreeSetup>)->Name("Tree/Build")->Unit(benchmark::kMillisecond)->Iterations(1);
-BENCHMARK(BM_Build<GridSetup>)
-    ->Name("Tree/Build/baseline")
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(1);
-VORN_BENCH_TARGET("Tree/Build", 1.0);
-BENCHMARK(BM_TreeExpand)->Name("Tree/Expand")->Unit(benchmark::kMillisecond)->Iterations(10);
-BENCHMARK(BM_GridExpand)
-    ->Name("Tree/Expand/baseline")
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(10);
-BENCHMARK(BM_TreeCollapse)->Name("Tree/Collapse")->Unit(benchmark::kMillisecond)->Iterations(10);
-BENCHMARK(BM_GridCollapse)
-    ->Name("Tree/Collapse/baseline")
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(10);
-BENCHMARK(BM_ScrollStep<TreeSetup, false>)
-    ->Name("Tree/ScrollStep")
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(100);
-BENCHMARK(BM_ScrollStep<GridSetup, false>)
-    ->Name("Tree/ScrollStep/baseline")
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(100);
-BENCHMARK(BM_ScrollStep<TreeSetup, true>)
-    ->Name("Tree/ScrollStepOpen")
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(100);
-BENCHMARK(BM_ScrollStep<GridSetup, true>)
-    ->Name("Tree/ScrollStepOpen/baseline")
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(100);
+// Tree/...: stand-in leaves; TreeEditors/...: the tree's editors. Each is
+// paired with the property grid measured again under its own name.
+#define TREE_FIGURES(prefix, real)                 \
+  BENCHMARK(BM_Build<TreeSetup, real>)             \
+      ->Name(prefix "/Build")                      \
+      ->Unit(benchmark::kMillisecond)              \
+      ->Iterations(1);                             \
+  BENCHMARK(BM_Build<GridSetup>)                   \
+      ->Name(prefix "/Build/baseline")             \
+      ->Unit(benchmark::kMillisecond)              \
+      ->Iterations(1);                             \
+  VORN_BENCH_TARGET(prefix "/Build", 1.0);         \
+  BENCHMARK(BM_TreeExpand<real>)                   \
+      ->Name(prefix "/Expand")                     \
+      ->Unit(benchmark::kMillisecond)              \
+      ->Iterations(10);                            \
+  BENCHMARK(BM_GridExpand)                         \
+      ->Name(prefix "/Expand/baseline")            \
+      ->Unit(benchmark::kMillisecond)              \
+      ->Iterations(10);                            \
+  BENCHMARK(BM_TreeCollapse<real>)                 \
+      ->Name(prefix "/Collapse")                   \
+      ->Unit(benchmark::kMillisecond)              \
+      ->Iterations(10);                            \
+  BENCHMARK(BM_GridCollapse)                       \
+      ->Name(prefix "/Collapse/baseline")          \
+      ->Unit(benchmark::kMillisecond)              \
+      ->Iterations(10);                            \
+  BENCHMARK(BM_ScrollStep<TreeSetup, false, real>) \
+      ->Name(prefix "/ScrollStep")                 \
+      ->Unit(benchmark::kMillisecond)              \
+      ->Iterations(100);                           \
+  BENCHMARK(BM_ScrollStep<GridSetup, false>)       \
+      ->Name(prefix "/ScrollStep/baseline")        \
+      ->Unit(benchmark::kMillisecond)              \
+      ->Iterations(100);                           \
+  BENCHMARK(BM_ScrollStep<TreeSetup, true, real>)  \
+      ->Name(prefix "/ScrollStepOpen")             \
+      ->Unit(benchmark::kMillisecond)              \
+      ->Iterations(100);                           \
+  BENCHMARK(BM_ScrollStep<GridSetup, true>)        \
+      ->Name(prefix "/ScrollStepOpen/baseline")    \
+      ->Unit(benchmark::kMillisecond)              \
+      ->Iterations(100)
+
+TREE_FIGURES("Tree", false);
+TREE_FIGURES("TreeEditors", true);

@@ -75,6 +75,9 @@ class VornNode {
   static int WindowShiftOf(VornNode* parent);
   // Moves and sizes a window, unless it is already there.
   static void PlaceWindow(VornControl* control, int x, int y, int w, int h);
+  // Repaints a placed window, unless it is a child of the root lying wholly
+  // outside the view (it is painted when scrolled in).
+  static void RepaintWindow(VornNode* parent, VornControl* control);
 
   int m_nodeID = -1;              // -1 until registered
   VornNode* m_pParent = nullptr;  // not owned

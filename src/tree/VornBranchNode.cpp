@@ -99,7 +99,7 @@ void VornBranchNode::Refresh() {
   }
   PlaceWindow(m_pControl.get(), m_x1, m_y1 - WindowShiftOf(m_pParent), m_x2 - m_x1, m_y2 - m_y1);
   if (!m_pControl->IsShown()) m_pControl->Show(true);
-  m_pControl->wxWindow::Refresh(false);
+  RepaintWindow(m_pParent, m_pControl.get());
   m_pTree->Refresh();
 }
 

@@ -1,7 +1,7 @@
 // The node base and the leaf base.
-#include <wx/gdicmn.h>
-
 #include "vorn/VornNode.h"
+
+#include <wx/gdicmn.h>
 
 VornNode::VornNode() = default;
 
@@ -30,6 +30,16 @@ void VornNode::PlaceWindow(VornControl* control, int x, int y, int w, int h) {
   // children without telling their stored geometry.
   if (control->wxWindow::GetRect() == wxRect(x, y, w, h)) return;
   control->SetWindowPos(x, y, w, h);
+}
+
+void VornNode::RepaintWindow(VornNode* parent, VornControl* control) {
+  VornTreeRootNode* root = parent ? parent->GetRoot() : nullptr;
+  if (root && root == parent) {
+    const wxRect place = control->wxWindow::GetRect();
+    const int viewHeight = root->GetVornVUIControl()->wxWindow::GetClientSize().y;
+    if (place.GetBottom() < 0 || place.y >= viewHeight) return;
+  }
+  control->wxWindow::Refresh(false);
 }
 
 VornLeafNode::~VornLeafNode() = default;

@@ -82,7 +82,7 @@ void VornVUIControlNode::Refresh() {
   }
   PlaceWindow(m_pControl.get(), m_x1, m_y1 - WindowShiftOf(m_pParent), m_x2 - m_x1, m_y2 - m_y1);
   if (!m_pControl->IsShown()) m_pControl->Show(true);
-  m_pControl->wxWindow::Refresh(false);
+  RepaintWindow(m_pParent, m_pControl.get());
 }
 
 void VornVUIControlNode::GetDisplay(int& x1, int& y1, int& x2, int& y2) const {
