@@ -564,6 +564,21 @@ void MenuAndBarMasks(Writer& out) {
   out("movie_head_fill.png", Fill(9, 30, head));
 }
 
+// Parameter tree editors: a 16 x 16 check box (a sunken well and a tick) and
+// the branch toggle's 16 x 16 arrow head, pointing right while the branch is
+// collapsed and down while it is open.
+void TreeEditorMasks(Writer& out) {
+  SunkenWell(out, "treecheck", 16, 16, 3);
+  const Field tick = Union(Segment(4, 8.5f, 7, 11.5f, 1.1f), Segment(7, 11.5f, 12, 4.5f, 1.1f));
+  out("treecheck_tick.png", Fill(16, 16, tick));
+  out("treecheck_tick_down.png", Fill(16, 16, [&](float x, float y) { return tick(x, y - 1); }));
+  const Field down = Triangle(8, 8.5f, 4.5f, 5, 1);
+  out("treebranch_open.png", Fill(16, 16, down));
+  out("treebranch_closed.png", Fill(16, 16, [&](float x, float y) { return down(y, x); }));
+  out("treebranch_ring.png", Fill(16, 16, Subtract(Circle(8, 8, 7.5f), Circle(8, 8, 6.5f))));
+  out("treebranch_shape.png", Fill(16, 16, Circle(8, 8, 7.5f)));
+}
+
 void Generate(Writer& out) {
   // Push button: a 32 x 32 tool face with a plus glyph.
   RaisedFace(out, "push", 32, 32, 6);
@@ -678,6 +693,7 @@ void Generate(Writer& out) {
   EditWidgetMasks(out);
   ListButtonMasks(out);
   MenuAndBarMasks(out);
+  TreeEditorMasks(out);
 }
 
 }  // namespace

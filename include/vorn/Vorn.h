@@ -34,3 +34,5 @@
 #include "vorn/VornPopUpButton.h"
 #include "vorn/VornMovieBar.h"
 #include "vorn/ColourPicker.h"
+#include "vorn/VornNode.h"
+#include "vorn/VUIControls.h"

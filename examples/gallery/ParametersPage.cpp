@@ -1,0 +1,222 @@
+// The parameters page: a scene object's inspector built from the parameter
+// tree. A name, a transform (position, rotation, scale), a material with
+// colours, sliders, check boxes and function buttons, and a simulation
+// branch of thirty numbers that makes the tree scroll. Every change reaches
+// the log as a node hint with the leaf's node id and name.
+#include <functional>
+#include <map>
+#include <vector>
+
+#include "Gallery.h"
+
+namespace {
+
+constexpr int kTextX = 24;
+constexpr int kTop = 14;
+constexpr int kTreeX = 24;
+constexpr int kTreeY = 64;
+constexpr int kTreeWidth = 620;
+constexpr int kTreeHeight = 380;
+constexpr int kAlignment = 150;
+constexpr int kNotesX = kTreeX + kTreeWidth + 24;
+constexpr unsigned int kTreeId = 900;
+
+using PT = VUITreeTextEdits;
+
+// Writes the tree's hints into the log with the node's id and the name of
+// the parameter it holds.
+class NodeHintLogger : public MessageReceiver {
+ public:
+  NodeHintLogger(GalleryLog& log, std::function<wxString(int)> nameOf)
+      : m_log(log), m_nameOf(std::move(nameOf)) {}
+  void OnUpdate(unsigned int, VornControl*, VornControlHint* hint) override {
+    if (auto* h = dynamic_cast<NodeChangingHint*>(hint))
+      Note("NodeChangingHint", h->m_nodeId, "");
+    else if (auto* h = dynamic_cast<NodeChangedHint*>(hint))
+      Note("NodeChangedHint", h->m_nodeId, "");
+    else if (auto* h = dynamic_cast<FunctionButtonPushHint*>(hint))
+      Note("FunctionButtonPushHint", h->m_nodeId,
+           wxString::Format("  type %d (was %d)", h->m_newType, h->m_previousType));
+  }
+
+ private:
+  void Note(const char* what, int node, const wxString& tail) {
+    m_log.Add(wxString::Format("%s  node %d (%s)%s", what, node, m_nameOf(node), tail));
+  }
+  GalleryLog& m_log;
+  std::function<wxString(int)> m_nameOf;
+};
+
+class ParametersPage : public GalleryPage {
+ public:
+  ParametersPage(wxWindow* parent, GalleryContext& ctx)
+      : GalleryPage(parent, ctx),
+        m_logger(ctx.Log(), [this](int node) { return NameOfNode(node); }) {
+    m_group.Register(&m_logger);
+    m_pTree = new VornMainVUITreeControl;
+    m_pTree->Create(kAlignment, &m_ctx.Assets(), kTreeX, kTreeY, kTreeWidth, kTreeHeight, this,
+                    kTreeId, &m_group);
+    Build();
+    m_pTree->RefreshTree();
+    SetSize(960, kTreeY + kTreeHeight + 16);
+  }
+  ~ParametersPage() override {
+    DestroyChildren();
+    m_group.DeRegister(&m_logger);
+  }
+
+  void Demo() override {
+    // Roughness dragged, a box ticked, a colour channel typed.
+    if (m_pRoughness) {
+      Expand(m_pMaterial, true);
+      VUITreeSubSlider* s = m_pRoughness->GetSlider();
+      const int x = s->GetLayout().thumbMiddle, y = s->GetSize().y / 2;
+      SendMouse(s, wxEVT_ENTER_WINDOW, x, y);
+      SendMouse(s, wxEVT_LEFT_DOWN, x, y);
+      SendMouse(s, wxEVT_MOTION, x + 6, y);
+      SendMouse(s, wxEVT_MOTION, x + 12, y);
+      SendMouse(s, wxEVT_LEFT_UP, x + 12, y);
+      SendMouse(s, wxEVT_LEAVE_WINDOW, x + 12, y);
+    }
+    if (m_pShadows) ClickOn(m_pShadows->GetButton());
+    if (m_pAlbedo) m_pAlbedo->GetField(1)->SetText("0.42", true);
+    if (m_pName) m_pName->GetField(0)->SetText("Crate_043", true);
+    Expand(m_pMaterial, false);
+  }
+
+  // The second picture: the branches open and the tree scrolled.
+  bool OpenPopUpForShot() override {
+    for (VornBranchNode* b : {m_pTransform, m_pMaterial, m_pSimulation}) Expand(b, true);
+    // Scrolled so that the material branch comes to the top.
+    VornTreeRootNode* root = m_pTree->GetTreeRoot();
+    const int travel = root->GetHeight() - root->GetRootControl()->GetSize().y;
+    int x1, y1, x2, y2;
+    m_pMaterial->GetDisplay(x1, y1, x2, y2);
+    if (VornTreeRootScrollControl* bar = m_pTree->GetScrollBar())
+      if (travel > 0) bar->SetSliderVal(static_cast<double>(y1) / travel, true);
+    return true;
+  }
+  void ClosePopUps() override {
+    if (VornTreeRootScrollControl* bar = m_pTree->GetScrollBar()) bar->SetSliderVal(0.0, true);
+    for (VornBranchNode* b : {m_pTransform, m_pMaterial, m_pSimulation}) Expand(b, false);
+  }
+
+ protected:
+  void DrawPage(wxDC& dc) override {
+    const int h = DrawText(dc, m_ctx.Msg("Scene object"), kTextX, kTop, "label_bold", "text");
+    DrawText(dc, m_ctx.Msg("VornMainVUITreeControl with VUITree editors"), kTextX, kTop + h + 4,
+             "small", "text_dim");
+    int y = kTreeY;
+    for (const char* key : {"Open a branch with its arrow.", "Drag, tick or type a value:",
+                            "the log shows the node hint", "with the leaf's node id.",
+                            "The ... buttons choose", "widget, texture or function."})
+      y += DrawText(dc, m_ctx.Msg(key), kNotesX, y, "small", "text_dim") + 4;
+  }
+
+ private:
+  wxString NameOfNode(int node) const {
+    auto it = m_names.find(node);
+    return it != m_names.end() ? it->second : wxString("?");
+  }
+
+  // Adds a leaf to level; the control is returned for the demo.
+  template <class Editor>
+  Editor* Leaf(VornTreeNode* level, const char* key, Editor* editor) {
+    auto* node = new VornVUIControlNode(editor, level, true);
+    level->AddToEnd(node);
+    m_names[node->GetNodeID()] = m_ctx.Msg(key);
+    return editor;
+  }
+  VornBranchNode* Branch(VornTreeNode* level, const char* key) {
+    auto* branch = new VornBranchNode(level, Utf8(m_ctx.Msg(key)));
+    level->AddToEnd(branch);
+    m_names[branch->GetNodeID()] = m_ctx.Msg(key);
+    return branch;
+  }
+  VornString Name(const char* key) const { return Utf8(m_ctx.Msg(key)); }
+
+  void Expand(VornBranchNode* branch, bool open) {
+    if (!branch || branch->IsExpanded() == open) return;
+    // As the branch's own toggle button does it.
+    branch->SetExpandedVal(open);
+    if (VornBranchToggleButton* toggle = branch->GetBranchControl()->GetToggleButton())
+      toggle->SetOn(open);
+    open ? branch->OnExpand() : branch->OnCollapse();
+    m_pTree->RefreshTree();
+  }
+
+  void Build() {
+    AssetManager* am = &m_ctx.Assets();
+    VornTreeRootNode* root = m_pTree->GetTreeRoot();
+    m_pName = Leaf(root, "Name", new VUITreeTextEdits(am, Name("Name"), false, PT::PT_STRING, 140));
+    m_pName->SetValue(VornString("Crate_042"));
+
+    m_pTransform = Branch(root, "Transform");
+    VornTreeNode* t = m_pTransform->GetTree();
+    Leaf(t, "Position", new VUITreeTextEdits(am, Name("Position"), false, PT::PT_VEC3D))
+        ->SetValue(Vec3d(1.5, 0, -4.25));
+    Leaf(t, "Rotation", new VUITreeTextEdits(am, Name("Rotation"), false, PT::PT_QUATERNION))
+        ->SetValue(Quaternion(0, 0.382683, 0, 0.92388));
+    Leaf(t, "Scale", new VUITreeExpandTextEdits(am, Name("Scale"), false, 3))
+        ->SetValue(Vec3d(1, 1, 1));
+
+    m_pMaterial = Branch(root, "Material");
+    VornTreeNode* m = m_pMaterial->GetTree();
+    m_pAlbedo = Leaf(m, "Albedo", new VUITreeTextEdits(am, Name("Albedo"), true, PT::PT_COLOR));
+    m_pAlbedo->SetValue(Color(0.8, 0.55, 0.3));
+    Leaf(m, "Emission", new VUITreeTextEdits(am, Name("Emission"), true, PT::PT_COLOR))
+        ->SetValue(Color(0, 0, 0));
+    m_pRoughness =
+        Leaf(m, "Roughness", new VUITreeSlider(am, Name("Roughness"), true, 0.0, 1.0, 0.35));
+    Leaf(m, "Metalness", new VUITreeSlider(am, Name("Metalness"), true, 0.0, 1.0, 0.0));
+    Leaf(m, "Opacity", new VUITreeSlider(am, Name("Opacity"), false, 0.0, 100.0, 100.0, true));
+    Leaf(m, "Texture scale",
+         new VUITreeThumbWheel(am, Name("Texture scale"), false, 0.01, 100.0, 2.0, 0.1));
+    m_pShadows = Leaf(m, "Casts shadows", new VUITreeCheckBox(am, Name("Casts shadows"), false));
+    Leaf(m, "Receives shadows", new VUITreeCheckBox(am, Name("Receives shadows"), false, true));
+    Leaf(m, "Double sided", new VUITreeCheckBox(am, Name("Double sided"), false));
+
+    m_pSimulation = Branch(root, "Simulation");
+    VornTreeNode* s = m_pSimulation->GetTree();
+    static const char* const kNumbers[] = {
+        "Mass",           "Friction",       "Restitution",   "Linear damping", "Angular damping",
+        "Gravity scale",  "Drag",           "Lift",          "Buoyancy",       "Sleep threshold",
+        "Solver steps",   "Contact offset", "Rest offset",   "Max velocity",   "Max spin",
+        "Stiffness",      "Damping ratio",  "Break force",   "Break torque",   "Wind response",
+        "Air density",    "Water density",  "Heat capacity", "Conductivity",   "Temperature",
+        "Ignition point", "Burn rate",      "Charge",        "Magnetism",      "Lifetime"};
+    int i = 0;
+    for (const char* key : kNumbers) {
+      switch (i++ % 3) {
+        case 0:
+          Leaf(s, key, new VUITreeSlider(am, Name(key), false, 0.0, 10.0, (i % 10) * 0.9));
+          break;
+        case 1:
+          Leaf(s, key, new VUITreeThumbWheel(am, Name(key), false, -1000.0, 1000.0, i * 1.25, 1));
+          break;
+        default:
+          Leaf(s, key, new VUITreeTextEdits(am, Name(key), false, PT::PT_INT))
+              ->SetValue(int32(i * 4));
+      }
+    }
+  }
+
+  VornControlGroup m_group;  // the host's tree group: only the node hints are logged
+  NodeHintLogger m_logger;
+  std::map<int, wxString> m_names;
+  VornMainVUITreeControl* m_pTree = nullptr;
+  VornBranchNode* m_pTransform = nullptr;
+  VornBranchNode* m_pMaterial = nullptr;
+  VornBranchNode* m_pSimulation = nullptr;
+  VUITreeTextEdits* m_pName = nullptr;
+  VUITreeTextEdits* m_pAlbedo = nullptr;
+  VUITreeSlider* m_pRoughness = nullptr;
+  VUITreeCheckBox* m_pShadows = nullptr;
+};
+
+const GalleryPageRegistrar kRegistrar({97, "Parameters", "parameters",
+                                       [](wxWindow* parent, GalleryContext& ctx) -> GalleryPage* {
+                                         return new ParametersPage(parent, ctx);
+                                       }});
+
+}  // namespace

@@ -1,0 +1,410 @@
+#pragma once
+// The parameter tree's editors: the hints they send to the tree's group and
+// the sub-controls that keep the editors of one parameter in step. Each
+// sub-control shows a sibling's value message without reporting back.
+#include <memory>
+
+#include "vorn/AssetManager.h"
+#include "vorn/ValInterface.h"
+#include "vorn/VornButton.h"
+#include "vorn/VornControlGroup.h"
+#include "vorn/VornEdit.h"
+#include "vorn/VornListBox.h"
+#include "vorn/VornNode.h"
+#include "vorn/VornSlider.h"
+#include "vorn/VornThumbWheelControl.h"
+
+// ---- hints sent to the tree's group ---------------------------------------------
+
+// The wrapped editor is being changed (a drag); read the value through the
+// control's value interfaces.
+class NodeChangingHint : public VornControlHint {
+ public:
+  explicit NodeChangingHint(int nodeId = -1) : m_nodeId(nodeId) {}
+  ~NodeChangingHint() override;
+  int m_nodeId;  // -1 when the control has no node
+};
+
+// The wrapped editor was changed (final).
+class NodeChangedHint : public VornControlHint {
+ public:
+  explicit NodeChangedHint(int nodeId = -1) : m_nodeId(nodeId) {}
+  ~NodeChangedHint() override;
+  int m_nodeId;  // -1 when the control has no node
+};
+
+// The user chose what drives the parameter on its function button.
+class FunctionButtonPushHint : public VornControlHint {
+ public:
+  // The function types a function button offers.
+  enum { FT_WIDGET = 0, FT_TEXTURE = 1, FT_FUNCTION = 2 };
+  FunctionButtonPushHint(int nodeId = -1, int newType = FT_WIDGET, int previousType = FT_WIDGET)
+      : m_nodeId(nodeId), m_newType(newType), m_previousType(previousType) {}
+  ~FunctionButtonPushHint() override;
+  int m_nodeId;        // -1 when the control has no node
+  int m_newType;       // one of the FT_ values
+  int m_previousType;  // always FT_WIDGET
+};
+
+// ---- sub-controls -----------------------------------------------------------------
+// Each ignores hints it sent itself; otherwise it takes the value messages
+// listed and shows them without notification.
+
+// Real and integer messages are written in the edit's number format ("%.6f"
+// in the real style, "%i" otherwise); a text is taken as it is.
+class VUITreeSubEditBox : public VornEdit {
+ public:
+  using VornEdit::VornEdit;
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+  // Changes the edit style and rewrites the text in its format.
+  void ForceStyle(int style);
+};
+
+// An integer message switches the button on when non-zero.
+class VUITreeSubButtonToggle : public VornButtonToggle {
+ public:
+  using VornButtonToggle::VornButtonToggle;
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+};
+
+// Real and integer messages become the slider's value (0 to 1); a text
+// message is a wiring error.
+class VUITreeSubSlider : public VornSliderB {
+ public:
+  using VornSliderB::VornSliderB;
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+};
+
+// Real and integer messages become the wheel's value, redrawn; a text
+// message is a wiring error.
+class VUITreeSubThumbWheel : public VornThumbWheelControl {
+ public:
+  using VornThumbWheelControl::VornThumbWheelControl;
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+};
+
+// ---- the editors ----------------------------------------------------------------
+// Every leaf of the parameter tree: a name label left of the alignment line,
+// an editor right of it, and optionally a function button (at the right
+// end) that says whether the parameter is a widget value, a texture or a
+// function. The editors report to an inner group; the control passes their
+// change hints to the tree's group as node hints.
+
+class VUITreeControlBase;
+class VUITreeFields;
+
+// The function button's group: a choice in its list goes to the owner.
+class VUITreeFuncCG : public VornControlGroup {
+ public:
+  explicit VUITreeFuncCG(VUITreeControlBase* owner) : m_pOwner(owner) {}
+  using VornControlGroup::ControlSelected;
+  void ControlSelected(unsigned int id, VornControl* control) override;
+  VUITreeControlBase* GetOwner() const { return m_pOwner; }
+
+ private:
+  VUITreeControlBase* m_pOwner;  // not owned: the owner holds this group
+};
+
+class VUITreeControlBase : public LButDisplayCallback, public VornVUIControl {
+ public:
+  // Metrics the tree's layout uses.
+  static constexpr int kNameGap = 20;     // alignment point = name width + this
+  static constexpr int kBaseWidth = 103;  // right of the alignment point
+  static constexpr int kHeight = 32;
+  static constexpr int kEditorGap = 4;       // from the alignment line to the editor
+  static constexpr int kFunctionSpace = 22;  // added right of a functionable editor
+
+  // ---- construction
+  // Loads the name font and the name and highlight colours (assertion when
+  // the skin lacks one).
+  VUITreeControlBase(AssetManager* assetman, VornString name, bool functionable);
+  ~VUITreeControlBase() override;
+  // Creates the window and, when functionable, the function button.
+  bool Create(wxWindow* parent, int id, VornControlGroup* group, long style = 0) override;
+  using VornVUIControl::Create;
+
+  // ---- metrics
+  int GetAllignmentPt() override;  // name width + 20
+  int GetMaxWidth() override;      // alignment + 103 (+ the function button)
+  int GetMaxHeight() override;     // 32
+  // Measures the name in the name font.
+  void SetNameTextSizes();
+  // name shortened, ending in dots, to fit width pixels in dc's font; width
+  // becomes the shortened name's width.
+  void GetCoolMushName(VornString name, VornString& out, int& width, wxDC* dc);
+
+  // ---- the function button
+  // Fills the button's list: "Widget", a separator, "Texture", "Function".
+  void UpDateData(VornListButton* button) override;
+  // Hook: the user chose a row. Sends a FunctionButtonPushHint for a type
+  // other than the widget one.
+  virtual void OnFunctionButtonPush();
+
+  // ---- reports
+  // Turns an inner editor's VUIControlChanging / VUIControlChanged into a
+  // node hint for the tree's group; everything else stays inside.
+  void NotifyParentGroup(unsigned int id, VornControl* source, VornControlHint* hint);
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+  void OnDraw(wxDC* dc) override;
+
+  // ---- accessors
+  const VornString& GetParamName() const { return m_name; }
+  void SetParamName(const VornString& name);
+  int GetNameWidth() const { return m_nameWidth; }
+  bool IsFunctionable() const { return m_functionable; }
+  VornListButton* GetFunctionButton() const { return m_pFunctionButton; }
+  AssetManager* GetAssetManager() const { return m_pAssetManager; }
+  bool IsCreated() const { return m_bCreated; }
+  // The holding node's id, -1 without a node.
+  int GetNodeId();
+  // The label as last drawn (empty before the first OnDraw).
+  const wxBitmap& GetLabelBitmap() const { return m_label; }
+
+ protected:
+  // ---- for the editors
+  // x of the editor's left edge.
+  int EditorLeft() { return GetAllignmentPt() + kEditorGap; }
+  // The width right of the alignment line that the editor needs; the base
+  // adds the function button's column.
+  virtual int EditorWidth() { return kBaseWidth; }
+  // Top of a part h pixels high, centred in the row.
+  static int RowTop(int h) { return (kHeight - h) / 2; }
+  wxColour BackgroundColour() const;
+  // Places the function button at the control's right end.
+  void PlaceFunctionButton();
+  // True for the control's own editors (its child windows).
+  bool IsInner(const VornControl* source) const;
+  // Lays the whole tree out again (after a change of size).
+  void Relayout();
+  // Drops the label so that the next OnDraw rebuilds it.
+  void InvalidateLabel() { m_labelX = kNoLabel; }
+
+  AssetManager* m_pAssetManager;  // not owned
+  VornString m_name;
+  wxFont m_nameFont;
+  wxColour m_nameColour;
+  wxColour m_highlightColour;
+  bool m_functionable;
+  VornListButton* m_pFunctionButton = nullptr;  // a child window
+  VUITreeFuncCG m_functionGroup{this};
+  wxFont m_listFont;
+  int m_nameWidth = 0;
+  bool m_bCreated = false;
+  bool m_bChanging = false;  // between a node-changing and a node-changed hint
+
+ private:
+  static constexpr int kNoLabel = -1000000;
+  void BuildLabel();
+  int m_labelX = kNoLabel;  // x position the label was built for
+  VornString m_labelName;
+  bool m_bLabelRowHighlight = false;
+  wxBitmap m_label;
+};
+
+// A slider with a value box beside it. The value runs from the minimum to
+// the maximum (whole numbers when integer); the inner slider from 0 to 1.
+class VUITreeSlider : public VUITreeControlBase, public RealVal, public IntVal {
+ public:
+  static constexpr int kWidth = 143;  // right of the alignment point
+  static constexpr int kSliderWidth = 58;
+
+  VUITreeSlider(AssetManager* assetman, VornString name, bool functionable, double minimum,
+                double maximum, double value, bool integer = false);
+  ~VUITreeSlider() override;
+  bool Create(wxWindow* parent, int id, VornControlGroup* group, long style = 0) override;
+  using VUITreeControlBase::Create;
+
+  // Moves the slider and the box; with notify a RealValChanged (under id)
+  // goes to the control's group.
+  void SetVal(double value, bool notify, int id = 0);
+  double GetVal() const { return m_value; }
+  bool GetValue(double& out) override;
+  bool SetValue(double value) override;
+  bool GetValue(int32& out) override;
+  bool SetValue(int32 value) override;
+
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+  VUITreeSubSlider* GetSlider() const { return m_pSlider; }
+  VUITreeSubEditBox* GetEditBox() const { return m_pEdit; }
+
+ protected:
+  int EditorWidth() override { return kWidth; }
+  double Limited(double value) const;
+  void ShowInBox();
+
+  double m_minimum, m_maximum, m_value;
+  bool m_bInteger;
+  VornControlGroupValue m_sliderGroup;  // the slider and this control
+  VornControlGroupValue m_boxGroup;     // the value box and this control
+  VUITreeSubSlider* m_pSlider = nullptr;
+  VUITreeSubEditBox* m_pEdit = nullptr;
+};
+
+// A thumb wheel with a value box beside it; the wheel's value is the
+// parameter's, limited to the minimum and maximum.
+class VUITreeThumbWheel : public VUITreeControlBase, public RealVal, public IntVal {
+ public:
+  VUITreeThumbWheel(AssetManager* assetman, VornString name, bool functionable, double minimum,
+                    double maximum, double value, double step, bool integer = false);
+  ~VUITreeThumbWheel() override;
+  bool Create(wxWindow* parent, int id, VornControlGroup* group, long style = 0) override;
+  using VUITreeControlBase::Create;
+
+  void SetVal(double value, bool notify, int id = 0);
+  double GetVal() const { return m_value; }
+  void ResetVals(double minimum, double maximum, double value);
+  bool GetValue(double& out) override;
+  bool SetValue(double value) override;
+  bool GetValue(int32& out) override;
+  bool SetValue(int32 value) override;
+
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+  VUITreeSubThumbWheel* GetWheel() const { return m_pWheel; }
+  VUITreeSubEditBox* GetEditBox() const { return m_pEdit; }
+
+ protected:
+  // The wheel and the value box side by side, + 3.
+  int EditorWidth() override;
+  double Limited(double value) const;
+  void ShowValue();
+
+  double m_minimum, m_maximum, m_value, m_step;
+  bool m_bInteger;
+  const BitmapA* m_pFrame = nullptr;  // the manager's
+  const BitmapA* m_pStrip = nullptr;
+  const BitmapA* m_pWindow = nullptr;
+  VornControlGroupValue m_wheelGroup;  // the wheel and this control
+  VornControlGroupValue m_boxGroup;    // the value box and this control
+  VUITreeSubThumbWheel* m_pWheel = nullptr;
+  VUITreeSubEditBox* m_pEdit = nullptr;
+};
+
+// A check box: 1 when ticked, 0 when not.
+class VUITreeCheckBox : public VUITreeControlBase, public IntVal {
+ public:
+  VUITreeCheckBox(AssetManager* assetman, VornString name, bool functionable, bool on = false);
+  ~VUITreeCheckBox() override;
+  bool Create(wxWindow* parent, int id, VornControlGroup* group, long style = 0) override;
+  using VUITreeControlBase::Create;
+
+  bool GetValue(int32& out) override;
+  // Ticks or clears the box and sends an IntValChanged to the group.
+  bool SetValue(int32 value) override;
+
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+  VUITreeSubButtonToggle* GetButton() const { return m_pButton; }
+
+ protected:
+  bool m_bOn;
+  VornControlGroupValue m_inner;  // the box and this control
+  VUITreeSubButtonToggle* m_pButton = nullptr;
+};
+
+// One to four text fields for a typed value; PTYPE fixes how many and
+// which value interface is served (the others answer false).
+class VUITreeTextEdits : public VUITreeControlBase,
+                         public IntVal,
+                         public RealVal,
+                         public Vec2dVal,
+                         public Vec3dVal,
+                         public Vec4dVal,
+                         public QuaternionVal,
+                         public ColorVal,
+                         public ColorAVal,
+                         public VornStringVal {
+ public:
+  enum PTYPE {
+    PT_INT = 0,
+    PT_REAL = 1,
+    PT_VEC2D = 2,
+    PT_VEC3D = 3,
+    PT_VEC4D = 4,
+    PT_QUATERNION = 5,
+    PT_COLOR = 6,
+    PT_COLORA = 7,
+    PT_STRING = 8,
+  };
+  static constexpr int kDefaultFieldWidth = 56;
+  // Fields and edit style of a type (assertion outside PT_INT..PT_STRING).
+  static int FieldCount(PTYPE type);
+  static int EditStyle(PTYPE type);
+
+  VUITreeTextEdits(AssetManager* assetman, VornString name, bool functionable, PTYPE type,
+                   int fieldWidth = kDefaultFieldWidth);
+  ~VUITreeTextEdits() override;
+  bool Create(wxWindow* parent, int id, VornControlGroup* group, long style = 0) override;
+  using VUITreeControlBase::Create;
+
+  PTYPE GetType() const { return m_type; }
+  void SetEditable(bool editable);
+  // Every field takes this edit style instead of the type's.
+  void ForceStyle(VornEdit::EDITSTYLE style);
+  VUITreeSubEditBox* GetField(int index) const;
+  int GetFieldCount() const;
+
+  bool GetValue(int32& out) override;
+  bool SetValue(int32 value) override;
+  bool GetValue(double& out) override;
+  bool SetValue(double value) override;
+  bool GetValue(Vec2d& out) override;
+  bool SetValue(Vec2d value) override;
+  bool GetValue(Vec3d& out) override;
+  bool SetValue(Vec3d value) override;
+  bool GetValue(Vec4d& out) override;
+  bool SetValue(Vec4d value) override;
+  bool GetValue(Quaternion& out) override;
+  bool SetValue(Quaternion value) override;
+  bool GetValue(Color& out) override;
+  bool SetValue(Color value) override;
+  bool GetValue(ColorA& out) override;
+  bool SetValue(ColorA value) override;
+  bool GetValue(VornString& out) override;
+  bool SetValue(VornString value) override;
+
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+
+ protected:
+  int EditorWidth() override;
+  // n numbers into or out of the fields, when the type is `type`.
+  bool PutReals(PTYPE type, const double* values);
+  bool TakeReals(PTYPE type, double* values);
+
+  PTYPE m_type;
+  int m_style;
+  bool m_bEditable = true;
+  std::unique_ptr<VUITreeFields> m_pFields;  // each field in a group with this control
+};
+
+// Text fields for a vector that take as many fields as the vector set last
+// has (2 to 4); the tree lays itself out again when the count changes.
+class VUITreeExpandTextEdits : public VUITreeControlBase,
+                               public Vec4dVal,
+                               public Vec3dVal,
+                               public Vec2dVal {
+ public:
+  VUITreeExpandTextEdits(AssetManager* assetman, VornString name, bool functionable, int fields = 3,
+                         int fieldWidth = VUITreeTextEdits::kDefaultFieldWidth);
+  ~VUITreeExpandTextEdits() override;
+  bool Create(wxWindow* parent, int id, VornControlGroup* group, long style = 0) override;
+  using VUITreeControlBase::Create;
+
+  int GetFieldCount() const;
+  VUITreeSubEditBox* GetField(int index) const;
+  bool GetValue(Vec2d& out) override;
+  bool SetValue(Vec2d value) override;
+  bool GetValue(Vec3d& out) override;
+  bool SetValue(Vec3d value) override;
+  bool GetValue(Vec4d& out) override;
+  bool SetValue(Vec4d value) override;
+
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+
+ protected:
+  int EditorWidth() override;
+  // Shows n fields; re-lays out the tree when n changed.
+  void Expand(int n);
+  bool Take(int n, double* values);
+
+  int m_count;
+  std::unique_ptr<VUITreeFields> m_pFields;  // each field in a group with this control
+};

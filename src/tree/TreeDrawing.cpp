@@ -1,0 +1,53 @@
+// Drawing helpers of the tree's controls.
+#include "TreeDrawing.h"
+
+#include <wx/brush.h>
+#include <wx/pen.h>
+
+#include "vorn/GraphicsFunctions.h"
+
+namespace vorn_tree {
+
+BranchHeaderGeometry ComputeBranchHeader(int alignment, int nameWidth, int nameHeight, int width) {
+  BranchHeaderGeometry g;
+  g.row = wxRect(0, 0, width, kHeaderRowHeight);
+  g.toggle = wxRect(3, (kHeaderRowHeight - kToggleSize) / 2, kToggleSize, kToggleSize);
+  // The name ends just left of the alignment line.
+  g.name = wxPoint(alignment - nameWidth - 2, (kHeaderRowHeight - nameHeight) / 2);
+  g.stemX = g.toggle.x + kToggleSize / 2;
+  g.stemTop = g.toggle.GetBottom() + 1;
+  return g;
+}
+
+void FillRect(wxDC& dc, const wxRect& rect, const Color& colour) {
+  const wxColour c = CtoWxC(colour);
+  dc.SetPen(*wxTRANSPARENT_PEN);
+  dc.SetBrush(wxBrush(c));
+  dc.DrawRectangle(rect);
+}
+
+void DrawConnectors(wxDC& dc, int stemX, int stemTop, const std::vector<ConnectorRow>& rows,
+                    const Color& line) {
+  if (rows.empty()) return;
+  dc.SetPen(wxPen(CtoWxC(line), 1));
+  const ConnectorRow& last = rows.back();
+  const int lastMid = (last.top + last.bottom) / 2;
+  dc.DrawLine(stemX, stemTop, stemX, lastMid + 1);
+  for (const ConnectorRow& row : rows) {
+    const int mid = (row.top + row.bottom) / 2;
+    if (row.left > stemX) dc.DrawLine(stemX, mid, row.left, mid);
+  }
+}
+
+void DrawToggleBox(wxDC& dc, const wxRect& box, bool expanded, const Color& line,
+                   const Color& fill) {
+  dc.SetPen(wxPen(CtoWxC(line), 1));
+  dc.SetBrush(wxBrush(CtoWxC(fill)));
+  dc.DrawRectangle(box);
+  const int cx = box.x + box.width / 2;
+  const int cy = box.y + box.height / 2;
+  dc.DrawLine(box.x + 3, cy, box.GetRight() - 2, cy);
+  if (!expanded) dc.DrawLine(cx, box.y + 3, cx, box.GetBottom() - 2);
+}
+
+}  // namespace vorn_tree

@@ -1,0 +1,37 @@
+#pragma once
+// The tree editors' fixed texts: asset names, list entries and assertion
+// texts. They are part of the behaviour (skins and tests rely on them).
+
+namespace VUITreeTexts {
+
+// Skin names.
+constexpr const char* kNameFont = "vuiedit_tree_contname";
+constexpr const char* kNameColour = "vuiedit_tree_ContNameCol";
+constexpr const char* kHighlightColour = "vuiedit_tree_texthilite";
+constexpr const char* kListFont = "vuiedit_tree_lbfont";
+constexpr const char* kFunctionList = "vui_tree_funcbutn.lbs";
+constexpr const char* kValueBox = "vui_tree_control_text.sts";
+constexpr const char* kCheckBox = "vui_tree_checkbox.sts";
+constexpr const char* kWheelFrame = "thumbwheel_frame.sts";
+constexpr const char* kWheelStrip = "thumbwheel_strip.sts";
+constexpr const char* kWheelWindow = "thumbwheel_window.sts";
+constexpr const char* kSliderTrack = "slider_round_track";
+constexpr const char* kSliderThumb = "slider_round_thumb";
+
+// The function button's rows.
+constexpr const char* kWidget = "Widget";
+constexpr const char* kTexture = "Texture";
+constexpr const char* kFunction = "Function";
+
+// Assertion texts.
+constexpr const char* kNoAssetManager = "assetman != __null";
+constexpr const char* kLoadFailed = "val == true";
+constexpr const char* kNotFunctionable = "this->m_functionable";
+constexpr const char* kBadFunctionRow = "row == 0 || row == 2 || row == 3";
+constexpr const char* kBadType = "type >= PT_INT && type <= PT_STRING";
+constexpr const char* kTextToNumeric = "dynamic_cast<StringValMessage*>(hint) == __null";
+
+// Number formats of the value boxes.
+constexpr int kRealDecimals = 6;  // "%.6f"
+
+}  // namespace VUITreeTexts

@@ -1,0 +1,158 @@
+// A collapsible branch: header control plus sub-tree.
+#include "TreeTexts.h"
+#include "vorn/VornAssert.h"
+#include "vorn/VornNode.h"
+
+using namespace vorn_tree;
+
+VornBranchNode::VornBranchNode(VornTreeNode* parent, VornString name) {
+  VORN_ASSERT_TEXT(parent != nullptr, kParentNotNull);
+  if (!parent) return;
+  SetParent(parent);
+  VornTreeRootNode* root = parent->GetRoot();
+  if (root) root->Register(this);
+  m_pTree = std::make_unique<VornTreeNode>();
+  m_pTree->SetParent(this);
+  VornNode::SetVisible(parent->IsVisible());
+  m_bExpanded = false;
+  m_pControl =
+      std::make_unique<VornVUIBranchControl>(root ? root->GetAssetManager() : nullptr, name, this);
+  if (root) {
+    m_pControl->SetBackgroundCol(root->GetBackgroundCol());
+    m_pControl->SetLineCol(root->GetLineCol());
+    if (VornMainVUITreeControl* tree = root->GetTreeControl())
+      m_pControl->SetMouseOverCol(tree->GetMouseOverCol());
+  }
+  VornVUIControl* parentControl = parent->GetVornVUIControl();
+  if (parentControl && parentControl->GetHandle())
+    m_pControl->Create(parentControl, wxID_ANY, nullptr);
+}
+
+VornBranchNode::~VornBranchNode() {
+  if (VornTreeRootNode* root = GetRoot()) root->Deregister(this);
+  // The sub-tree's windows are children of the header's window: they go
+  // first so that wx does not delete them under their owners.
+  m_pTree.reset();
+  m_pControl.reset();
+}
+
+// ---- layout ------------------------------------------------------------------
+
+int VornBranchNode::GetWidth() {
+  return m_pControl ? m_pControl->GetMaxWidth() : 0;
+}
+
+int VornBranchNode::GetHeight() {
+  return m_pControl ? m_pControl->GetMaxHeight() : 0;
+}
+
+int VornBranchNode::GetAllignmentPoint() {
+  return m_pControl ? m_pControl->GetAllignmentPt() : 0;
+}
+
+void VornBranchNode::SetDisplay(int x1, int y1, int x2, int y2) {
+  VORN_ASSERT_TEXT(m_pControl && m_pControl->GetHandle() != nullptr, kWindowExists);
+  VORN_ASSERT_TEXT((x2 - x1) == this->GetWidth(), kBranchWidth);
+  VORN_ASSERT_TEXT((y2 - y1) == this->GetHeight(), kBranchHeight);
+  m_x1 = x1;
+  m_y1 = y1;
+  m_x2 = x2;
+  m_y2 = y2;
+  if (!m_pControl) return;
+  const int ox = m_pControl->GetTreeOffsetX();
+  const int oy = m_pControl->GetTreeOffsetY();
+  m_pTree->SetDisplay(ox, oy, ox + m_pTree->GetWidth(), oy + m_pTree->GetHeight());
+}
+
+void VornBranchNode::GetNodeFromPoint(VornNode*& out, int x, int y) {
+  // The header row is the branch; below it, the sub-tree when shown.
+  if (!m_bExpanded || !m_pControl) {
+    out = this;
+    return;
+  }
+  const int ox = m_pControl->GetTreeOffsetX();
+  const int oy = m_pControl->GetTreeOffsetY();
+  if (y < oy || m_pTree->GetSize() == 0) {
+    out = this;
+    return;
+  }
+  m_pTree->GetNodeFromPoint(out, x - ox, y - oy);
+}
+
+void VornBranchNode::SetVisible(bool visible) {
+  VornNode::SetVisible(visible);
+  // Children are shown only while the branch is open.
+  m_pTree->SetVisible(visible && m_bExpanded);
+}
+
+VornVUIControl* VornBranchNode::GetVornVUIControl() {
+  return m_pControl.get();
+}
+
+void VornBranchNode::Refresh() {
+  VORN_ASSERT_TEXT(m_pControl && m_pControl->GetHandle() != nullptr, kWindowExists);
+  if (!m_pControl || !m_pControl->GetHandle()) return;
+  if (!IsVisible()) {
+    // Its sub-tree is hidden with it and placed when shown again.
+    if (m_pControl->IsShown()) m_pControl->Show(false);
+    return;
+  }
+  PlaceWindow(m_pControl.get(), m_x1, m_y1 - WindowShiftOf(m_pParent), m_x2 - m_x1, m_y2 - m_y1);
+  if (!m_pControl->IsShown()) m_pControl->Show(true);
+  RepaintWindow(m_pParent, m_pControl.get());
+  m_pTree->Refresh();
+}
+
+void VornBranchNode::GetDisplay(int& x1, int& y1, int& x2, int& y2) const {
+  x1 = m_x1;
+  y1 = m_y1;
+  x2 = m_x2;
+  y2 = m_y2;
+}
+
+// ---- expansion ------------------------------------------------------------------
+
+void VornBranchNode::OnExpand() {}
+
+void VornBranchNode::OnCollapse() {}
+
+void VornBranchNode::Exp() {
+  m_bExpanded = true;
+  m_pTree->SetVisible(IsVisible());
+}
+
+void VornBranchNode::Col() {
+  m_bExpanded = false;
+  m_pTree->SetVisible(false);
+}
+
+void VornBranchNode::Expand() {
+  Exp();
+}
+
+void VornBranchNode::Collapse() {
+  Col();
+}
+
+void VornBranchNode::Toggle() {
+  if (m_bExpanded)
+    Col();
+  else
+    Exp();
+}
+
+void VornBranchNode::SetExpandedVal(bool expanded) {
+  if (expanded)
+    Exp();
+  else
+    Col();
+}
+
+void VornBranchNode::SetNull(bool null) {
+  if (null == m_bNull) return;
+  if (null) {
+    Col();
+    m_pTree->DeleteAllLeafNodes();
+  }
+  m_bNull = null;
+}

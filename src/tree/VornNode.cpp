@@ -1,0 +1,49 @@
+// The node base and the leaf base.
+#include "vorn/VornNode.h"
+
+#include <wx/gdicmn.h>
+
+VornNode::VornNode() = default;
+
+VornNode::~VornNode() = default;
+
+void VornNode::GetNodeFromPoint(VornNode*& out, int, int) {
+  out = this;
+}
+
+void VornNode::SetVisible(bool visible) {
+  m_bVisible = visible;
+}
+
+VornTreeRootNode* VornNode::GetRoot() {
+  return m_pParent ? m_pParent->GetRoot() : nullptr;
+}
+
+int VornNode::WindowShiftOf(VornNode* parent) {
+  VornTreeRootNode* root = parent ? parent->GetRoot() : nullptr;
+  if (!root || root != parent || !root->GetTreeControl()) return 0;
+  return root->GetTreeControl()->GetScrollPos();
+}
+
+void VornNode::PlaceWindow(VornControl* control, int x, int y, int w, int h) {
+  // Compared with where wx has the window: a scroll moves the root's
+  // children without telling their stored geometry.
+  if (control->wxWindow::GetRect() == wxRect(x, y, w, h)) return;
+  control->SetWindowPos(x, y, w, h);
+}
+
+void VornNode::RepaintWindow(VornNode* parent, VornControl* control) {
+  VornTreeRootNode* root = parent ? parent->GetRoot() : nullptr;
+  if (root && root == parent) {
+    const wxRect place = control->wxWindow::GetRect();
+    const int viewHeight = root->GetVornVUIControl()->wxWindow::GetClientSize().y;
+    if (place.GetBottom() < 0 || place.y >= viewHeight) return;
+  }
+  control->wxWindow::Refresh(false);
+}
+
+VornLeafNode::~VornLeafNode() = default;
+
+void VornLeafNode::SetPosition(POSITION position) {
+  m_position = position;
+}
