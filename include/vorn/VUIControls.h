@@ -324,7 +324,7 @@ class VUITreeTextEdits : public VUITreeControlBase,
     PT_COLORA = 7,
     PT_STRING = 8,
   };
-  static constexpr int kDefaultFieldWidth = 56;
+  static constexpr int kDefaultFieldWidth = 64;
   // Fields and edit style of a type (assertion outside PT_INT..PT_STRING).
   static int FieldCount(PTYPE type);
   static int EditStyle(PTYPE type);
