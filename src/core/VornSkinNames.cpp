@@ -29,6 +29,21 @@ const std::vector<VornSkinName>& VornToolkitSkinNames() {
       {N::kFont, "colourpicker_label", "colour picker"},
       {N::kFont, "colourpicker_field", "colour picker"},
       {N::kAsset, "button_text.sts", "colour picker"},
+      // The parameter tree and its editors.
+      {N::kColour, "vuiedit_scrollbar_fg", "parameter tree"},
+      {N::kColour, "vuiedit_scrollbar_bg", "parameter tree"},
+      {N::kColour, "vuiedit_scrollbar_mo", "parameter tree"},
+      {N::kColour, "vuiedit_tree_fg", "parameter tree"},
+      {N::kColour, "vuiedit_tree_bg", "parameter tree"},
+      {N::kColour, "vuiedit_tree_mo", "parameter tree"},
+      {N::kColour, "vuiedit_tree_ContNameCol", "parameter tree"},
+      {N::kColour, "vuiedit_tree_texthilite", "parameter tree"},
+      {N::kFont, "vuiedit_tree_contname", "parameter tree"},
+      {N::kFont, "vuiedit_tree_lbfont", "parameter tree"},
+      {N::kAsset, "vui_tree_control_text.sts", "parameter tree"},
+      {N::kAsset, "vui_tree_funcbutn.lbs", "parameter tree"},
+      {N::kAsset, "vui_tree_checkbox.sts", "parameter tree"},
+      {N::kAsset, "vuiedit_tree_toggle.sts", "parameter tree"},
   };
   return names;
 }
