@@ -98,6 +98,8 @@ class VornControl : public VornWindow {
 
  private:
   void FinishCreate(int id, VornControlGroup* group);
+  // Links to group only if it accepts the control under id.
+  void StoreGroup(VornControlGroup* group, int id);
   void TakeMeta(const wxMouseEvent& event);
   void ButtonDown(const wxMouseEvent& event, bool left);
   void ButtonUp(const wxMouseEvent& event, bool left);

@@ -148,8 +148,9 @@ bool VirtualControl::Create(int x, int y, int w, int h, VirtualWindow* parent, V
 }
 
 void VirtualControl::StoreGroup(VornControlGroup* group) {
-  m_pControlGroup = group;
-  if (group) group->Register(m_id, this);
+  // A refused registration (the id is taken) leaves no link: the group
+  // would not clear it when it goes.
+  m_pControlGroup = group && group->Register(m_id, this) ? group : nullptr;
 }
 
 void VirtualControl::Bind(VornControlGroup* group) {

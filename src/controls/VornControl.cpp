@@ -54,20 +54,23 @@ bool VornControl::Create(int x, int y, int w, int h, wxWindow* parent, int id,
 void VornControl::FinishCreate(int id, VornControlGroup* group) {
   Init();
   if (id == -1) id = wxWindow::GetId();
-  m_pControlGroup = group;
-  if (group) group->Register(static_cast<unsigned int>(id), this);
+  StoreGroup(group, id);
+}
+
+void VornControl::StoreGroup(VornControlGroup* group, int id) {
+  // A refused registration (the id is taken) leaves no link: the group
+  // would not clear it when it goes, and our id names the other control.
+  m_pControlGroup = group && group->Register(static_cast<unsigned int>(id), this) ? group : nullptr;
 }
 
 void VornControl::Bind(VornControlGroup* group) {
   VORN_ASSERT_TEXT(m_pControlGroup == nullptr, "m_pControlGroup == __null");
   if (m_pControlGroup) return;
-  m_pControlGroup = group;
-  if (group) group->Register(static_cast<unsigned int>(GetId()), this);
+  StoreGroup(group, GetId());
 }
 
 void VornControl::SetGroup(VornControlGroup* group) {
-  m_pControlGroup = group;
-  if (group) group->Register(static_cast<unsigned int>(GetId()), this);
+  StoreGroup(group, GetId());
 }
 
 void VornControl::OnDraw(wxDC* dc) {

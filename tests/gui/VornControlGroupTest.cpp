@@ -315,3 +315,35 @@ TEST_F(ControlGroup, ValueOneOfNGroupWithControlsOnBothSides) {
 }
 
 }  // namespace
+
+namespace {
+int g_refusals = 0;
+void CountAssertion(const VornAssertInfo&) {
+  ++g_refusals;
+}
+}  // namespace
+
+// A control refused under a taken id must keep no link: the group does not
+// clear it when it goes (a dangling link), and the control's id would
+// deregister the other member.
+TEST_F(ControlGroup, RefusedRegistrationLeavesNoGroupLink) {
+  g_refusals = 0;
+  const VornAssertHandler previous = VornSetAssertHandler(&CountAssertion);
+  auto group = std::make_unique<VornControlGroup>();
+  auto* first = new RecordingControl(frame.Get(), 5, group.get(), nullptr);
+  auto* twin = new RecordingControl(frame.Get(), 5, group.get(), nullptr);
+  auto* firstVirtual = new RecordingVirtual(6, group.get(), &log, "a");
+  auto* twinVirtual = new RecordingVirtual(6, group.get(), &log, "b");
+  VornSetAssertHandler(previous);
+  EXPECT_EQ(g_refusals, 2);
+  EXPECT_EQ(twin->GetGroup(), nullptr);
+  EXPECT_EQ(twinVirtual->GetGroup(), nullptr);
+  delete twin;  // must not take the first one's entry with it
+  delete twinVirtual;
+  // Only entries still registered get their link cleared by the group.
+  group.reset();
+  EXPECT_EQ(first->GetGroup(), nullptr);
+  EXPECT_EQ(firstVirtual->GetGroup(), nullptr);
+  delete first;
+  delete firstVirtual;
+}

@@ -157,6 +157,147 @@ void RangeValue(VornControl* c, Random& r) {
                : range->SetSliderValue(r.Value(), r.Chance(50));
 }
 
+VornMenu* MakeMenu(const SoakSkin& s, VornControlGroup* group, Random& r) {
+  std::vector<MENUITEM> items;
+  s.assets.LoadMenuText(r.Chance(50) ? "menu_playback.txt" : "menu_view.txt", items);
+  return new VornMenu(items, s.Images("menu_mark.sts"), s.Colour("menu_bg"),
+                      s.Colour("menu_highlight"), s.Colour("menu_title_bg"), s.Colour("menu_text"),
+                      s.Font("menu_title"), s.Font("menu_entry"), 0, 0, group, nullptr, wxID_ANY);
+}
+
+// ---- menus: the menu is a parentless frame that must outlive its button,
+// so the button owns it through a base that is destroyed after it. Its
+// entries take their ids from the menu text, so each menu has a group of
+// its own: two menus from one asset in one group would clash.
+struct MenuHolder {
+  VornControlGroup1ofN menuGroup;
+  VornMenu* menu = nullptr;
+  ~MenuHolder() {
+    if (menu) menu->Destroy();
+  }
+};
+
+template <class Button>
+class SoakMenuButton : private MenuHolder, public Button {
+ public:
+  SoakMenuButton(const SoakSkin& s, const char* images, int mode, int vertical, int x, int y,
+                 wxWindow* parent, int id, VornControlGroup* group, Random& r) {
+    menu = MakeMenu(s, &menuGroup, r);
+    VornMenu* owned = menu;
+    Button::Create(s.Images(images), owned, mode, vertical, x, y, parent, id, group);
+  }
+};
+
+VornMenuOpener* AsOpener(VornControl* c) {
+  return static_cast<VornMenuOpener*>(c);
+}
+
+void MenuValue(VornControl* c, Random& r) {
+  VornMenuOpener* button = AsOpener(c);
+  const int count = button->GetCount();
+  // The asset's ids or new ones; an id is added only once (ids are unique
+  // in a group).
+  const int id = r.Chance(50) ? r.Between(0, 30) : r.Between(100, 140);
+  const bool fresh = button->FindItem(id) < 0;
+  switch (r.Below(6)) {
+    case 0:
+      if (fresh) button->AppendSelectItem(RandomText(r), id);
+      break;
+    case 1:
+      if (fresh) button->AppendRadioItem(RandomText(r), id);
+      break;
+    case 2:
+      if (r.Chance(50))
+        button->DeleteItemID(id);
+      else if (count > 0)
+        button->DeleteItemPos(r.Below(count));
+      break;
+    case 3:
+      r.Chance(10) ? button->ClearAll() : button->AppendLineBreak();
+      break;
+    case 4:
+      button->SetItemText(id, RandomText(r));
+      break;
+    default:
+      button->SetSelected(id);
+  }
+}
+
+wxWindow* MenuPopUp(VornControl* c, Random&) {
+  wxMouseEvent enter(wxEVT_ENTER_WINDOW), down(wxEVT_LEFT_DOWN);
+  for (wxMouseEvent* e : {&enter, &down}) {
+    e->SetEventObject(c);
+    e->m_x = 3;
+    e->m_y = 3;
+    e->m_leftDown = e == &down;
+    c->GetEventHandler()->ProcessEvent(*e);
+  }
+  VornMenu* menu = AsOpener(c)->GetMenu();
+  return menu && menu->IsShown() ? menu : nullptr;
+}
+
+void MenuPopDown(VornControl* c) {
+  AsOpener(c)->Reset();
+}
+
+// ---- movie bar: it reports only to a movie-bar group, so most bars bring
+// one of their own that outlives them (the others report to the soak's
+// group, that is to nothing).
+struct MovieGroupHolder {
+  VornMovieBarCG movieGroup;
+};
+
+class SoakMovieBar : private MovieGroupHolder, public VornMovieBar {
+ public:
+  SoakMovieBar(const SoakSkin& s, int x, int y, int w, int h, wxWindow* parent, int id,
+               VornControlGroup* outer, Random& r) {
+    const wxBitmap *start = nullptr, *end = nullptr, *head = nullptr;
+    s.assets.LoadImageCached("movie_start.sts", start);
+    s.assets.LoadImageCached("movie_end.sts", end);
+    s.assets.LoadImageCached("movie_head.sts", head);
+    Create(start, end, head, x, y, w, h, parent, id, r.Chance(80) ? &movieGroup : outer);
+    SetColours(s.Colour("movie_track"), s.Colour("movie_range"), s.Colour("movie_played"));
+  }
+};
+
+void MovieValue(VornControl* c, Random& r) {
+  auto* bar = static_cast<VornMovieBar*>(c);
+  switch (r.Below(5)) {
+    case 0:
+      bar->SetStart(r.Value());
+      break;
+    case 1:
+      bar->SetEnd(r.Value());
+      break;
+    case 2:
+      bar->SetUp(r.Below(40) - 5, r.Below(40) - 5);
+      break;
+    case 3:
+      bar->Reset();
+      break;
+    default:
+      bar->SetValue(r.Value());
+  }
+}
+
+Color RandomColour(Random& r) {
+  return Color(r.Value(), r.Value(), r.Value());
+}
+
+void PickerValue(VornControl* c, Random& r) {
+  auto* picker = static_cast<ColourPicker*>(c);
+  switch (r.Below(3)) {
+    case 0:
+      picker->SetInitialRGB(RandomColour(r));
+      break;
+    case 1:
+      picker->SetColourHSV(r.Value(), r.Value(), r.Value());
+      break;
+    default:
+      picker->SetColourRGB(RandomColour(r));
+  }
+}
+
 ColorA SkinColourA(const SoakSkin& skin, const char* name) {
   return WxCtoCA(skin.Colour(name));
 }
@@ -316,6 +457,77 @@ const std::vector<SoakFamily>& SoakFamilies() {
              return MakeList(s, p, x, y, id, g.OneOfN(), r, true);
            },
            ListValue, ListPopUp, ListPopDown},
+          // ---- menus and bars
+          {"pop-up button",
+           [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random& r) {
+             return new SoakMenuButton<VornPopUpButton>(s, "button_popup_up.sts", r.Below(2),
+                                                        r.Below(2), x, y, p, id, g.OneOfN(), r);
+           },
+           MenuValue, MenuPopUp, MenuPopDown},
+          {"pop-side button",
+           [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random& r) {
+             return new SoakMenuButton<VornPopSideButton>(s, "button_popup_side.sts", r.Below(2),
+                                                          r.Below(2), x, y, p, id, g.OneOfN(), r);
+           },
+           MenuValue, MenuPopUp, MenuPopDown},
+          {"movie bar",
+           [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random& r) {
+             return new SoakMovieBar(s, x, y, SomeSize(r, 1, 400), SomeSize(r, 1, 40), p, id,
+                                     g.Value(), r);
+           },
+           MovieValue},
+          {"title bar",
+           [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup&, Random& r) {
+             auto* bar = new VornTitleBar(RandomText(r), x, y, SomeSize(r, 1, 400),
+                                          SomeSize(r, 1, 30), p, id);
+             bar->SetFont(s.Font("titlebar"));
+             return bar;
+           },
+           [](VornControl* c, Random& r) {
+             auto* bar = static_cast<VornTitleBar*>(c);
+             r.Chance(50) ? bar->SetTitle(RandomText(r))
+                          : bar->SetTitlePos(r.Below(300) - 20, r.Below(40) - 10);
+           }},
+          // ---- colour
+          {"colour picker",
+           [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random& r) {
+             auto* picker = new ColourPicker(
+                 x, y, p, id, r.Chance(80) ? g.Value() : nullptr,
+                 r.Chance(50) ? ColourPickerLook::FromSkin(s.assets) : ColourPickerLook());
+             picker->SetInitialRGB(RandomColour(r));
+             return picker;
+           },
+           PickerValue},
+          {"hue-value field",
+           [](const SoakSkin&, wxWindow* p, int x, int y, int id, SoakGroup& g, Random& r) {
+             return new HueValueControl(x, y, SomeSize(r, 1, 300), SomeSize(r, 1, 200), p, id,
+                                        g.Value());
+           },
+           [](VornControl* c, Random& r) {
+             auto* field = static_cast<HueValueControl*>(c);
+             const wxSize size = field->GetClientSize();
+             r.Chance(50) ? field->SetHueValue(r.Value(), r.Value())
+                          : field->SetColourFromPos(r.Between(-10, size.x + 10),
+                                                    r.Between(-10, size.y + 10));
+           }},
+          {"saturation slider",
+           [](const SoakSkin&, wxWindow* p, int x, int y, int id, SoakGroup& g, Random& r) {
+             return new SaturationPreview(x, y, SomeSize(r, 1, 60), SomeSize(r, 1, 160), p, id,
+                                          g.Value());
+           },
+           [](VornControl* c, Random& r) {
+             auto* slider = static_cast<SaturationPreview*>(c);
+             switch (r.Below(3)) {
+               case 0:
+                 slider->ScrollUp();
+                 break;
+               case 1:
+                 slider->ScrollDown();
+                 break;
+               default:
+                 slider->SetSaturation(r.Value());
+             }
+           }},
           // ---- values
           {"picture slider",
            [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random& r) {
