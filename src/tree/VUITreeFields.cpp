@@ -58,6 +58,8 @@ void VUITreeFields::Show(int n, VornControl* owner, int style, bool editable, in
                                         owner, static_cast<int>(m_fields.size()) + 1, editable,
                                         style, m_groups.back().get());
     m_fields.push_back(field);
+    const size_t index = m_fields.size() - 1;
+    if (index < m_waiting.size() && m_waiting[index]) field->SetText(*m_waiting[index], false);
   }
   for (int i = 0; i < static_cast<int>(m_fields.size()); ++i) {
     m_fields[i]->Move(x + i * (m_fieldWidth + kGap), (rowHeight - h) / 2);
@@ -90,36 +92,45 @@ void VUITreeFields::SetEditable(bool editable) {
   for (VUITreeSubEditBox* field : m_fields) field->SetEditable(editable);
 }
 
+void VUITreeFields::Put(int index, const VornString& text) {
+  if (index < static_cast<int>(m_fields.size())) {
+    m_fields[index]->SetText(text, false);
+    return;
+  }
+  if (index >= static_cast<int>(m_waiting.size())) m_waiting.resize(index + 1);
+  m_waiting[index] = text;
+}
+
+VornString VUITreeFields::Text(int index) const {
+  VornString text;
+  if (index < static_cast<int>(m_fields.size()))
+    m_fields[index]->GetText(text);
+  else if (index < static_cast<int>(m_waiting.size()) && m_waiting[index])
+    text = *m_waiting[index];
+  return text;
+}
+
 void VUITreeFields::PutReals(const double* values, int n) {
-  for (int i = 0; i < n && i < static_cast<int>(m_fields.size()); ++i)
-    m_fields[i]->SetText(Utf8Of(VornEditFormat::Fixed(values[i], VUITreeTexts::kRealDecimals)),
-                         false);
+  for (int i = 0; i < n; ++i)
+    Put(i, Utf8Of(VornEditFormat::Fixed(values[i], VUITreeTexts::kRealDecimals)));
 }
 
 void VUITreeFields::PutInt(int32 value) {
-  if (!m_fields.empty()) m_fields[0]->SetText(Utf8Of(wxString::Format("%i", value)), false);
+  Put(0, Utf8Of(wxString::Format("%i", value)));
 }
 
 void VUITreeFields::PutText(const VornString& text) {
-  if (!m_fields.empty()) m_fields[0]->SetText(text, false);
+  Put(0, text);
 }
 
 void VUITreeFields::TakeReals(double* values, int n) const {
-  for (int i = 0; i < n; ++i) {
-    VornString text;
-    if (i < static_cast<int>(m_fields.size())) m_fields[i]->GetText(text);
-    values[i] = VornEditFormat::ReadReal(FromUtf8(text));
-  }
+  for (int i = 0; i < n; ++i) values[i] = VornEditFormat::ReadReal(FromUtf8(Text(i)));
 }
 
 int32 VUITreeFields::TakeInt() const {
-  VornString text;
-  if (!m_fields.empty()) m_fields[0]->GetText(text);
-  return VornEditFormat::ReadInt(FromUtf8(text));
+  return VornEditFormat::ReadInt(FromUtf8(Text(0)));
 }
 
 VornString VUITreeFields::TakeText() const {
-  VornString text;
-  if (!m_fields.empty()) m_fields[0]->GetText(text);
-  return text;
+  return Text(0);
 }

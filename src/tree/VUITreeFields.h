@@ -5,6 +5,7 @@
 #include <wx/bitmap.h>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "vorn/VUIControls.h"
@@ -41,10 +42,16 @@ class VUITreeFields {
   VornString TakeText() const;
 
  private:
+  // A text goes to its field, or waits for it: a leaf in a closed branch
+  // gets its value before its windows exist.
+  void Put(int index, const VornString& text);
+  VornString Text(int index) const;
+
   wxBitmap m_picture;  // the value box at the field width
   VornEditInfo m_info;
   int m_fieldWidth;
   int m_shown = 0;
   std::vector<VUITreeSubEditBox*> m_fields;  // child windows of the owner
   std::vector<std::unique_ptr<VornControlGroupValue>> m_groups;
+  std::vector<std::optional<VornString>> m_waiting;  // texts of fields not made yet
 };

@@ -287,6 +287,21 @@ TEST_F(TreeEditorsTest, ATypedFieldIsReadBackAndReported) {
   EXPECT_EQ(TextOf(e->GetField(1)), "-7");
 }
 
+TEST_F(TreeEditorsTest, AValueSetBeforeTheWindowsExistIsShownWhenTheyAre) {
+  // A leaf of a closed branch gets its value before its first Create.
+  auto* e = new VUITreeTextEdits(&Skin(), "Albedo", false, PT::PT_COLOR);
+  e->SetValue(Color(0.25, 0.5, 0.75));
+  Color before;
+  ASSERT_TRUE(e->GetValue(before));
+  EXPECT_TRUE(Near(before.r, 0.25) && Near(before.b, 0.75));
+  e->Create(frame.Get(), ++lastId, &tree.group);
+  EXPECT_EQ(TextOf(e->GetField(0)), "0.250000");
+  EXPECT_EQ(TextOf(e->GetField(2)), "0.750000");
+  Color after;
+  ASSERT_TRUE(e->GetValue(after));
+  EXPECT_TRUE(Near(after.g, 0.5));
+}
+
 TEST_F(TreeEditorsTest, ExpandingEditsTakeTheSizeOfTheVectorSetLast) {
   auto* e = Make<VUITreeExpandTextEdits>("Scale", false, 3, 40);
   const int align = e->GetAllignmentPt();
