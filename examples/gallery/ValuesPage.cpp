@@ -190,18 +190,18 @@ class ValuesPage : public GalleryPage {
     Head(Row(1), "Colour slider", "slider_round_*");
     Head(Row(2), "Fader", "fader_*.sts");
     const int x2 = kFirstX + 200 + kReadoutWidth + 30;
-    struct Spec {
+    struct SliderRow {
       unsigned int id;
       int row, x;
       SliderType type;
       const char* look;
       double value;
     };
-    for (const Spec& s : {Spec{kSliderA, 0, kFirstX, SLIDER_PLAIN, "A", 0.3},
-                          Spec{kSliderACentred, 0, x2, SLIDER_CENTRED, "A", 0.7},
-                          Spec{kSliderB, 1, kFirstX, SLIDER_PLAIN, "B", 0.5},
-                          Spec{kSliderBCentred, 1, x2, SLIDER_CENTRED, "B", 0.25},
-                          Spec{kSliderC, 2, kFirstX, SLIDER_PLAIN, "C", 0.6}}) {
+    for (const SliderRow& s : {SliderRow{kSliderA, 0, kFirstX, SLIDER_PLAIN, "A", 0.3},
+                          SliderRow{kSliderACentred, 0, x2, SLIDER_CENTRED, "A", 0.7},
+                          SliderRow{kSliderB, 1, kFirstX, SLIDER_PLAIN, "B", 0.5},
+                          SliderRow{kSliderBCentred, 1, x2, SLIDER_CENTRED, "B", 0.25},
+                          SliderRow{kSliderC, 2, kFirstX, SLIDER_PLAIN, "C", 0.6}}) {
       const wxString name = wxString::Format("%s %s (%s)", m_ctx.Msg("Slider"), s.look,
                                              s.type == SLIDER_PLAIN ? plain : centred);
       ValueGroup* group = Group(name, m_readouts.size());
@@ -264,17 +264,17 @@ class ValuesPage : public GalleryPage {
 
   void BuildWheels(int row) {
     Head(row, "Thumb wheels", "thumbwheel_*.sts");
-    struct Spec {
+    struct WheelRow {
       unsigned int id;
       bool vertical;
       int x, y;
       const char *frame, *strip, *window, *name;
       float value;
     };
-    for (const Spec& s :
-         {Spec{kWheel, false, kFirstX, row + 6, "thumbwheel_frame.sts", "thumbwheel_strip.sts",
+    for (const WheelRow& s :
+         {WheelRow{kWheel, false, kFirstX, row + 6, "thumbwheel_frame.sts", "thumbwheel_strip.sts",
                "thumbwheel_window.sts", "Horizontal", 350},
-          Spec{kVertWheel, true, kFirstX + 300, row, "thumbwheel_frame_v.sts",
+          WheelRow{kVertWheel, true, kFirstX + 300, row, "thumbwheel_frame_v.sts",
                "thumbwheel_strip_v.sts", "thumbwheel_window_v.sts", "Vertical", 1}}) {
       const wxString name = m_ctx.Msg("Thumb wheel") + " (" + m_ctx.Msg(s.name) + ")";
       auto* wheel =

@@ -4,27 +4,14 @@
 // "function 3 1 0", "int 1", "real 0.5").
 #include <memory>
 
-#include "../ControlTestSupport.h"
-#include "vorn/AssetManager.h"
-#include "vorn/FileAsset.h"
+#include "TreeTestSupport.h"
 #include "vorn/VUIControls.h"
 
 namespace treetest {
 
 // The default skin with its fonts and colours, shared by the tests.
 inline AssetManager& Skin() {
-  static AssetManager* manager = [] {
-    auto* am = new AssetManager;
-    auto* loader = new FileAssetLoader;
-    loader->Init(std::string(VORN_SKIN_DIR) + "/");
-    am->SetAssetLoader(loader);
-    am->SetLanguage("english", "");
-    am->LoadAssets();
-    am->LoadColourData("colours.txt");
-    am->LoadFontData("fonts.txt");
-    return am;
-  }();
-  return *manager;
+  return TreeSkin();
 }
 
 class NodeHintLog : public MessageReceiver {
