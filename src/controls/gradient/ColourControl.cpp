@@ -87,10 +87,13 @@ void ColourControl::SetSelect(unsigned int index) {
 // ---- the mouse ------------------------------------------------------------------
 
 void ColourControl::OnMouseDownLeft() {
-  if (GetMouseDownLeft())
+  if (GetMouseDownLeft()) {
+    // The Delete key reaches the editor through the strip.
+    if (FindFocus() != this) SetFocus();
     PressAt(m_lastDownX, m_lastDownY);
-  else
+  } else {
     ReleaseAt(m_lastMouseX, m_lastMouseY);
+  }
 }
 
 void ColourControl::PressAt(int x, int y) {
