@@ -405,7 +405,9 @@ class GradientControl : public GradientControlComp {
   void Scroll(bool up);
   void ForEachPart(const std::function<void(GradientControlComp*)>& f);
 
-  VornControlGroupValue m_parts;             // the parts and this control
+  // The parts and this control; the parts' gestures reach this control's
+  // group under its id.
+  ChildToParentControlGroup m_parts{this};
   GradientRangeControl* m_pRange = nullptr;  // child windows
   ColourControl* m_pColour = nullptr;
   GradientSummary* m_pSummary = nullptr;

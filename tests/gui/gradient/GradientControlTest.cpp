@@ -32,7 +32,7 @@ TEST_F(GradientTest, DeleteAndBackspaceDeleteTheSelectedPointOtherKeysDoNot) {
     CaptureDprintf debug;
     Key(e->GetColourControl(), wxEVT_KEY_DOWN, k.code);
     EXPECT_EQ(gradient.GetNumPoints(), k.deletes ? 2 : 3) << k.code;
-    EXPECT_EQ(Take(), k.deletes ? "delete 2" : "") << k.code;
+    EXPECT_EQ(Take(), k.deletes ? "delete 2 unsel 9" : "") << k.code;
     EXPECT_TRUE(
         debug.Contains("GradientControl: Vorn Key Down (code = " + std::to_string(k.code) + ")\n"));
     EXPECT_EQ(debug.Contains("Colour Control says \"thank you for the delete key notification\"\n"),
@@ -107,7 +107,7 @@ TEST_F(GradientTest, TheTreeShowsTheSelectedPointAndFollowsADrag) {
   EXPECT_DOUBLE_EQ(Row(e, 0)->GetVal(), 0.35);
   Mouse(strip, wxEVT_LEFT_UP, 170, 4);
   EXPECT_DOUBLE_EQ(Row(e, 0)->GetVal(), 0.4);
-  EXPECT_EQ(Take(), "select 1 move 0.25 0.35 move 0.35 0.4");
+  EXPECT_EQ(Take(), "select 1 move 0.25 0.35 move 0.35 0.4 unsel 9");
 }
 
 TEST_F(GradientTest, TypingInTheTreeMovesAndRecoloursTheSelectedPoint) {
