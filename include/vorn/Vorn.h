@@ -36,3 +36,4 @@
 #include "vorn/ColourPicker.h"
 #include "vorn/VornNode.h"
 #include "vorn/VUIControls.h"
+#include "vorn/GradientControl.h"

@@ -44,6 +44,13 @@ const std::vector<VornSkinName>& VornToolkitSkinNames() {
       {N::kAsset, "vui_tree_funcbutn.lbs", "parameter tree"},
       {N::kAsset, "vui_tree_checkbox.sts", "parameter tree"},
       {N::kAsset, "vuiedit_tree_toggle.sts", "parameter tree"},
+      // The gradient editor.
+      {N::kColour, "gradient_bg", "gradient editor"},
+      {N::kColour, "gradient_fg", "gradient editor"},
+      {N::kColour, "gradient_handle", "gradient editor"},
+      {N::kColour, "gradient_range_track", "gradient editor"},
+      {N::kColour, "gradient_range_window", "gradient editor"},
+      {N::kColour, "gradient_range_handle", "gradient editor"},
   };
   return names;
 }
