@@ -594,3 +594,148 @@ class VUITreeEnumLB : public VUITreeLB, public VornStringVal {
  protected:
   EnumStringParser m_names;
 };
+
+// Stands in for a parameter whose editor could not be made: the error sign
+// and three lines ("Error: ", "ValType: ", "Widget: ") right of the name.
+// Every value interface stores its value, so nothing set is lost.
+class ErrorControl : public IntVal,
+                     public RealVal,
+                     public Vec2dVal,
+                     public Vec3dVal,
+                     public Vec4dVal,
+                     public QuaternionVal,
+                     public ColorVal,
+                     public ColorAVal,
+                     public VornStringVal,
+                     public VornVUIControl {
+ public:
+  static constexpr int kSignSize = 18;
+  static constexpr int kTextPoints = 8;
+
+  // Loads the font "vui_control_name" (assertion "val == true" without it).
+  ErrorControl(int width, int height, AssetManager* assetman, VornString name, VornString error,
+               VornString valueType, VornString widget);
+  ~ErrorControl() override;
+
+  int GetAllignmentPt() override;  // name width + 20
+  int GetMaxWidth() override { return m_width; }
+  int GetMaxHeight() override { return m_height; }
+  // Measures the name and the three lines.
+  void SetNameSizes();
+  void OnDraw(wxDC* dc) override;
+
+  // The three lines as drawn.
+  wxString GetLine(int index) const;
+  // Where the sign and the lines are drawn.
+  wxRect GetSignRect();
+  wxRect GetTextRect();
+  int GetTextWidth() const { return m_textWidth; }
+
+  bool GetValue(int32& out) override;
+  bool SetValue(int32 value) override;
+  bool GetValue(double& out) override;
+  bool SetValue(double value) override;
+  bool GetValue(Vec2d& out) override;
+  bool SetValue(Vec2d value) override;
+  bool GetValue(Vec3d& out) override;
+  bool SetValue(Vec3d value) override;
+  bool GetValue(Vec4d& out) override;
+  bool SetValue(Vec4d value) override;
+  bool GetValue(Quaternion& out) override;
+  bool SetValue(Quaternion value) override;
+  bool GetValue(Color& out) override;
+  bool SetValue(Color value) override;
+  bool GetValue(ColorA& out) override;
+  bool SetValue(ColorA value) override;
+  bool GetValue(VornString& out) override;
+  bool SetValue(VornString value) override;
+
+ protected:
+  int m_width;
+  int m_height;
+  VornString m_name, m_error, m_valueType, m_widget;
+  wxFont m_nameFont;
+  AssetManager* m_pAssetManager;  // not owned
+  int32 m_int = 0;
+  double m_real = 0.0;
+  Vec2d m_vec2;
+  Vec3d m_vec3;
+  Vec4d m_vec4;
+  Quaternion m_quaternion;
+  Color m_color;
+  ColorA m_colorA;
+  VornString m_string;
+  int m_nameWidth = 0;
+  int m_textWidth = 0;
+  int m_lineHeight = 0;
+  wxColour m_textColour;
+};
+
+class VornLBBranchNode;
+
+// The list-box branch's group: a choice goes to the node.
+class VornLBBranchNodeCG : public VornControlGroup {
+ public:
+  explicit VornLBBranchNodeCG(VornLBBranchNode* owner) : m_pOwner(owner) {}
+  using VornControlGroup::ControlSelected;
+  void ControlSelected(unsigned int id, VornControl* control) override;
+  VornLBBranchNode* GetOwner() const { return m_pOwner; }
+
+ private:
+  VornLBBranchNode* m_pOwner;  // not owned: the owner holds this group
+};
+
+// A branch whose header carries a list: right of the name while the branch
+// is collapsed, at the sub-tree's left offset (half its height lower) while
+// it is open. The host calls DoStartSequence once the node is in the tree.
+class VornLBBranchNode : public LBDisplayCallback, public VornBranchNode {
+ public:
+  VornLBBranchNode(VornTreeNode* parent, VornString name);
+  ~VornLBBranchNode() override;
+
+  // Loads "vuitree_listbox.lbs" and "vuiedit_tree_lbfont", makes the list
+  // in the header, lets OnStartUp fill it and shows it. False when the
+  // header has no window.
+  bool DoStartSequence();
+
+  // ---- hooks
+  void OnExpand() override;
+  void OnCollapse() override;
+  // Fills the list (the default adds nothing).
+  virtual void OnStartUp();
+  // The user chose a row: the default sends a NodeChangedHint with the
+  // branch's id to the tree's group.
+  virtual void OnItemSelected();
+  // Called before the list opens (the default keeps the items).
+  void UpDateData(VornListBox* list) override;
+
+  VornListBox* GetListBox() const { return m_pList; }
+  // Where the list sits for the branch's state.
+  wxPoint GetListPosition();
+
+ protected:
+  void PlaceList();
+
+  VornLBBranchNodeCG m_listGroup{this};
+  VornListBox* m_pList = nullptr;  // a child window of the header
+  wxFont m_listFont;
+};
+
+// The movie bar drawn as the tree draws: the track a line in the tree's
+// line colour, the sub-range a band, the played part in the highlight
+// colour, on the tree's background.
+class VornVUIMovieBar : public VornMovieBar {
+ public:
+  VornVUIMovieBar(const wxBitmap* startMarker, const wxBitmap* endMarker, const wxBitmap* playhead,
+                  int x, int y, int w, int h, wxWindow* parent, int id, VornControlGroup* group,
+                  long style = 0);
+  ~VornVUIMovieBar() override;
+
+  void SetTreeColours(const Color& background, const Color& line, const Color& played);
+  void OnDraw(wxDC* dc) override;
+
+ protected:
+  Color m_background{0.0, 0.0, 0.0};
+  Color m_line{1.0, 1.0, 1.0};
+  Color m_played{0.0, 0.6, 0.6};
+};
