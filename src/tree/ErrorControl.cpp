@@ -12,7 +12,13 @@
 #include "vornhost/Filter.h"
 
 namespace {
+// The connector as the editors draw it: a stub, a small circle, the name
+// and a leader to the alignment line.
+constexpr int kStubEnd = 4;
+constexpr int kCircleX = 7;
+constexpr int kCircleRadius = 2;
 constexpr int kNameX = 12;
+constexpr int kLeaderGap = 2;
 constexpr int kSignGap = 4;  // from the alignment line to the sign
 constexpr int kTextGap = 6;  // from the sign to the lines
 const ColorA kSignRed(0.85, 0.12, 0.12, 1.0);
@@ -113,6 +119,16 @@ void ErrorControl::OnDraw(wxDC* dc) {
   wxImage image(m_width, m_height);
   const wxColour bg = CtoWxC(GetRowBackgroundCol());
   image.SetRGB(wxRect(0, 0, m_width, m_height), bg.Red(), bg.Green(), bg.Blue());
+  {
+    std::unique_ptr<Filter> f = CreateFilter(image);
+    const ColorA line = CtoCA(GetLineCol());
+    const int mid = m_height / 2;
+    DrawLine(*f, 0, mid, kStubEnd, mid, line);
+    DrawCircle(AntiAlias(*f), kCircleX, mid, kCircleRadius, line, false);
+    const int leader = kNameX + m_nameWidth + kLeaderGap;
+    if (leader < GetAllignmentPt() - kLeaderGap)
+      DrawLine(*f, leader, mid, GetAllignmentPt() - kLeaderGap, mid, line);
+  }
   DrawErrorSign(image, GetSignRect());
   wxBitmap picture(image);
   {
