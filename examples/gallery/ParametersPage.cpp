@@ -47,11 +47,47 @@ class NodeHintLogger : public MessageReceiver {
   std::function<wxString(int)> m_nameOf;
 };
 
+// A list-box branch of render presets; its choice reaches the log as the
+// branch's node hint.
+class PresetBranch : public VornLBBranchNode {
+ public:
+  PresetBranch(VornTreeNode* parent, VornString name, std::vector<VornString> presets)
+      : VornLBBranchNode(parent, std::move(name)), m_presets(std::move(presets)) {}
+  void OnStartUp() override {
+    VornListBox* list = GetListBox();
+    list->ClearAll();
+    for (const VornString& p : m_presets) list->Append(p, nullptr);
+    list->SetSelected(0, false);
+  }
+
+ private:
+  std::vector<VornString> m_presets;
+};
+
+// The tree-styled movie bar's reports: playhead drags and range changes.
+class TreeMovieGroup : public VornMovieBarCG {
+ public:
+  explicit TreeMovieGroup(GalleryLog& log) : m_log(log) {}
+  void ControlDrag(unsigned int, VornControl* control) override { Note("ControlDrag", control); }
+  void ControlShapeChanged(unsigned int, VornControl* control) override {
+    Note("ControlShapeChanged", control);
+  }
+
+ private:
+  void Note(const char* what, VornControl* control) {
+    if (auto* bar = dynamic_cast<VornMovieBar*>(control))
+      m_log.Add(wxString::Format("%s  VornVUIMovieBar: value %.2f, range %.2f-%.2f", what,
+                                 bar->GetValue(), bar->GetStart(), bar->GetEnd()));
+  }
+  GalleryLog& m_log;
+};
+
 class ParametersPage : public GalleryPage {
  public:
   ParametersPage(wxWindow* parent, GalleryContext& ctx)
       : GalleryPage(parent, ctx),
-        m_logger(ctx.Log(), [this](int node) { return NameOfNode(node); }) {
+        m_logger(ctx.Log(), [this](int node) { return NameOfNode(node); }),
+        m_movieGroup(ctx.Log()) {
     m_group.Register(&m_logger);
     m_pTree = new VornMainVUITreeControl;
     m_pTree->Create(kAlignment, &m_ctx.Assets(), kTreeX, kTreeY, kTreeWidth, kTreeHeight, this,
@@ -111,6 +147,8 @@ class ParametersPage : public GalleryPage {
                             "the log shows the node hint", "with the leaf's node id.",
                             "The ... buttons choose", "widget, texture or function."})
       y += DrawText(dc, m_ctx.Msg(key), kNotesX, y, "small", "text_dim") + 4;
+    DrawText(dc, m_ctx.Msg("VornVUIMovieBar: the movie bar in the tree's style"), kNotesX,
+             kTreeY + 208, "small", "text_dim");
   }
 
  private:
@@ -199,6 +237,54 @@ class ParametersPage : public GalleryPage {
               ->SetValue(int32(i * 4));
       }
     }
+    BuildAnglesAndChoices(am, root);
+  }
+
+  // Angles, lists, an error control and a list-box branch, with the tree's
+  // movie bar beside the tree.
+  void BuildAnglesAndChoices(AssetManager* am, VornTreeRootNode* root) {
+    m_pLighting = Branch(root, "Lighting");
+    VornTreeNode* l = m_pLighting->GetTree();
+    m_pCone = Leaf(l, "Cone angle", new VUITreeAngleClippers(am, Name("Cone angle"), false, 0.4));
+    m_pHeading = Leaf(l, "Heading", new VUITreeAngleSelect(am, Name("Heading"), true, 135.0));
+    m_pHeading->SetDisplayStyle(VUITreeAngleSelect::DS_WHOLE);
+    auto* elevation =
+        Leaf(l, "Sun elevation", new VUITreeAngleSelect(am, Name("Sun elevation"), false));
+    elevation->SetRangeVals(-90.0, 270.0);
+    elevation->SetDisplayStyle(VUITreeAngleSelect::DS_WHOLE);
+    elevation->SetValue(35.0);
+    auto* blend = Leaf(l, "Blend mode", new VUITreeLB(am, Name("Blend mode"), false));
+    for (const char* mode : {"Normal", "Add", "Multiply", "Screen"}) blend->Append(mode);
+    blend->SetSelected(0);
+    m_pFilter = Leaf(l, "Filtering",
+                     new VUITreeEnumLB(am, Name("Filtering"), false, "Nearest | Linear | Cubic"));
+    m_pFilter->SetValue(VornString("Linear"));
+    // A parameter whose editor could not be made keeps its place and value.
+    auto* broken = new ErrorControl(360, 40, am, Name("Falloff curve"), "no editor for this type",
+                                    "PT_CURVE", "VUITreeCurveButton");
+    broken->SetValue(0.5);
+    Leaf(l, "Falloff curve", broken);
+
+    auto* presets =
+        new PresetBranch(root, Name("Render preset"), {"Draft", "Preview", "Final", "Turntable"});
+    root->AddToEnd(presets);
+    m_names[presets->GetNodeID()] = m_ctx.Msg("Render preset");
+    Leaf(presets->GetTree(), "Samples",
+         new VUITreeSlider(am, Name("Samples"), false, 1.0, 64.0, 16.0, true));
+    presets->DoStartSequence();
+    m_pPresets = presets;
+
+    const wxBitmap *start = nullptr, *end = nullptr, *head = nullptr;
+    if (am->LoadImageCached("movie_start.sts", start) &&
+        am->LoadImageCached("movie_end.sts", end) && am->LoadImageCached("movie_head.sts", head)) {
+      auto* bar = new VornVUIMovieBar(start, end, head, kNotesX, kTreeY + 230, 260, 30, this,
+                                      kTreeId + 1, &m_movieGroup);
+      bar->SetTreeColours(m_pTree->GetBackgroundCol(), m_pTree->GetLineCol(),
+                          WxCtoC(m_ctx.Colour("movie_played")));
+      bar->SetUp(11, 19);
+      bar->SetStart(0.15);
+      bar->SetValue(0.4);
+    }
   }
 
   VornControlGroup m_group;  // the host's tree group: only the node hints are logged
@@ -212,6 +298,12 @@ class ParametersPage : public GalleryPage {
   VUITreeTextEdits* m_pAlbedo = nullptr;
   VUITreeSlider* m_pRoughness = nullptr;
   VUITreeCheckBox* m_pShadows = nullptr;
+  TreeMovieGroup m_movieGroup;
+  VornBranchNode* m_pLighting = nullptr;
+  VornLBBranchNode* m_pPresets = nullptr;
+  VUITreeAngleClippers* m_pCone = nullptr;
+  VUITreeAngleSelect* m_pHeading = nullptr;
+  VUITreeEnumLB* m_pFilter = nullptr;
 };
 
 const GalleryPageRegistrar kRegistrar({97, "Parameters", "parameters",

@@ -408,3 +408,334 @@ class VUITreeExpandTextEdits : public VUITreeControlBase,
   int m_count;
   std::unique_ptr<VUITreeFields> m_pFields;  // each field in a group with this control
 };
+
+// ---- angle editors, list editors, the error control, list-box branches -----------
+#include "vorn/VornAngleControl.h"
+#include "vorn/VornMovieBar.h"
+#include "vornhost/Utility.h"
+
+// A dial that shows a sibling's value message (a turn, 0 to 1) without
+// reporting back; a text message is a wiring error.
+class VUITreeSubAngle : public VornAngleControlB {
+ public:
+  using VornAngleControlB::VornAngleControlB;
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+};
+
+// Callipers that show a sibling's value message (0 to 1) without reporting
+// back; a text message is a wiring error.
+class VUITreeSubAngleClippers : public VornAngleClippers {
+ public:
+  using VornAngleClippers::VornAngleClippers;
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+};
+
+// Angle callipers: the value is the opening, 0 (closed) to 1 (a quarter
+// turn). The int interface reads the value rounded.
+class VUITreeAngleClippers : public VUITreeControlBase, public RealVal, public IntVal {
+ public:
+  static constexpr int kWidth = 118;  // right of the alignment point
+  static constexpr int kClippersWidth = 110;
+  static constexpr int kClippersHeight = 26;
+  static constexpr int kSpan = 10;  // travel of span x 10 pixels
+
+  VUITreeAngleClippers(AssetManager* assetman, VornString name, bool functionable,
+                       double value = 0.0);
+  ~VUITreeAngleClippers() override;
+  bool Create(wxWindow* parent, int id, VornControlGroup* group, long style = 0) override;
+  using VUITreeControlBase::Create;
+
+  int GetMaxHeight() override;  // callipers height + 6
+  bool GetValue(double& out) override;
+  // Moves the jaws and sends a RealValChanged to the group.
+  bool SetValue(double value) override;
+  bool GetValue(int32& out) override;
+  bool SetValue(int32 value) override;
+
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+  VUITreeSubAngleClippers* GetClippers() const { return m_pClippers; }
+
+ protected:
+  int EditorWidth() override { return kWidth; }
+
+  double m_value;
+  VornControlGroupValue m_inner;  // the callipers and this control
+  VUITreeSubAngleClippers* m_pClippers = nullptr;
+};
+
+// An angle selector: a dial and, unless the display style hides it, a
+// value box. The dial's turn (0 to 1) maps onto the range (0 to 360 by
+// default), so the value is in the range's units.
+class VUITreeAngleSelect : public VUITreeControlBase, public RealVal, public IntVal {
+ public:
+  // How the value box shows the value.
+  enum { DS_REAL = 0, DS_WHOLE = 1, DS_DIAL_ONLY = 2 };
+  static constexpr int kDialSize = 26;
+
+  VUITreeAngleSelect(AssetManager* assetman, VornString name, bool functionable,
+                     double value = 0.0);
+  ~VUITreeAngleSelect() override;
+  bool Create(wxWindow* parent, int id, VornControlGroup* group, long style = 0) override;
+  using VUITreeControlBase::Create;
+
+  int GetMaxHeight() override;  // selector height + 6
+
+  // ---- settings
+  void SetDisplayStyle(int style);
+  int GetDisplayStyle() const { return m_displayStyle; }
+  // The values at the turns 0 and 1; keeps the value, limited to the range.
+  void SetRangeVals(double minimum, double maximum);
+  // The dial's angle, in degrees, at which the value is the minimum.
+  void SetZeroVal(double degrees);
+  double GetZeroVal() const { return m_zero; }
+  // Unsupported: the dial always runs counter-clockwise.
+  void SetClockwiseVal(bool) {}
+
+  // ---- the value
+  bool GetValue(double& out) override;
+  // Sets the value without a report.
+  bool SetValue(double value) override;
+  bool GetValue(int32& out) override;
+  // Sets the value and sends an IntValChanged to the group.
+  bool SetValue(int32 value) override;
+
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+  VUITreeSubAngle* GetDial() const { return m_pDial; }
+  VUITreeSubEditBox* GetEditBox() const { return m_pEdit; }
+
+ protected:
+  int EditorWidth() override { return kDialSize + kBaseWidth; }
+  double Limited(double value) const;
+  double TurnOf(double value) const;
+  // Puts the value on the dial and in the box.
+  void ShowValue();
+
+  double m_value;
+  double m_minimum = 0.0, m_maximum = 360.0;
+  double m_zero = 0.0;
+  int m_displayStyle = DS_REAL;
+  VornControlGroupValue m_dialGroup;  // the dial and this control
+  VornControlGroupValue m_boxGroup;   // the value box and this control
+  VUITreeSubAngle* m_pDial = nullptr;
+  VUITreeSubEditBox* m_pEdit = nullptr;
+};
+
+class VUITreeLB;
+
+// The list's group: a choice goes to the owner.
+class VornTreeLBCG : public VornControlGroup {
+ public:
+  explicit VornTreeLBCG(VUITreeLB* owner) : m_pOwner(owner) {}
+  using VornControlGroup::ControlSelected;
+  void ControlSelected(unsigned int id, VornControl* control) override;
+  VUITreeLB* GetOwner() const { return m_pOwner; }
+
+ private:
+  VUITreeLB* m_pOwner;  // not owned: the owner holds this group
+};
+
+// A drop-down list ("vuitree_listbox.lbs" in the font "vuiedit_tree_lbfont").
+// Items and a selection given before Create are kept for the list.
+class VUITreeLB : public VUITreeControlBase {
+ public:
+  VUITreeLB(AssetManager* assetman, VornString name, bool functionable);
+  ~VUITreeLB() override;
+  bool Create(wxWindow* parent, int id, VornControlGroup* group, long style = 0) override;
+  using VUITreeControlBase::Create;
+
+  // ---- the items
+  void Append(const VornString& text);
+  void ClearAll();
+  int GetCount() const { return static_cast<int>(m_items.size()); }
+  VornString GetItemText(int index) const;
+  // -1 for none; without a report.
+  void SetSelected(int index);
+  int GetSelected() const { return m_selected; }
+  VornListBox* GetList() const { return m_pList; }
+
+  // Hook: the user chose a row. Reports an IntValChanged with the row,
+  // which the tree's group gets as a NodeChangedHint.
+  virtual void OnListItemSelected();
+
+ protected:
+  // alignment + list width + 23
+  int EditorWidth() override;
+
+  std::vector<VornString> m_items;
+  int m_selected = -1;
+  int m_listWidth = 0;  // 0 until the script is read
+  VornTreeLBCG m_listGroup{this};
+  VornListBox* m_pList = nullptr;  // a child window
+};
+
+// A list of an enumeration's names, parsed from a text such as
+// "Linear | Smooth | Step"; the value is the chosen name.
+class VUITreeEnumLB : public VUITreeLB, public VornStringVal {
+ public:
+  VUITreeEnumLB(AssetManager* assetman, VornString name, bool functionable,
+                const VornString& enumeration);
+  ~VUITreeEnumLB() override;
+
+  // Replaces the names; the selection is kept when its name survives.
+  void SetEnumeration(const VornString& enumeration);
+  const EnumStringParser& GetNames() const { return m_names; }
+  // The index of a name, or -1; the name of an index, or "".
+  int IndexOf(const VornString& name) const { return m_names.GetIndex(name); }
+  VornString NameOf(int index) const { return m_names.GetName(index); }
+
+  // False while nothing is chosen.
+  bool GetValue(VornString& out) override;
+  // False for a name that is not in the enumeration.
+  bool SetValue(VornString value) override;
+
+  // Reports a StringValChanged with the chosen name.
+  void OnListItemSelected() override;
+
+ protected:
+  EnumStringParser m_names;
+};
+
+// Stands in for a parameter whose editor could not be made: the error sign
+// and three lines ("Error: ", "ValType: ", "Widget: ") right of the name.
+// Every value interface stores its value, so nothing set is lost.
+class ErrorControl : public IntVal,
+                     public RealVal,
+                     public Vec2dVal,
+                     public Vec3dVal,
+                     public Vec4dVal,
+                     public QuaternionVal,
+                     public ColorVal,
+                     public ColorAVal,
+                     public VornStringVal,
+                     public VornVUIControl {
+ public:
+  static constexpr int kSignSize = 18;
+  static constexpr int kTextPoints = 8;
+
+  // Loads the font "vui_control_name" (assertion "val == true" without it).
+  ErrorControl(int width, int height, AssetManager* assetman, VornString name, VornString error,
+               VornString valueType, VornString widget);
+  ~ErrorControl() override;
+
+  int GetAllignmentPt() override;  // name width + 20
+  int GetMaxWidth() override { return m_width; }
+  int GetMaxHeight() override { return m_height; }
+  // Measures the name and the three lines.
+  void SetNameSizes();
+  void OnDraw(wxDC* dc) override;
+
+  // The three lines as drawn.
+  wxString GetLine(int index) const;
+  // Where the sign and the lines are drawn.
+  wxRect GetSignRect();
+  wxRect GetTextRect();
+  int GetTextWidth() const { return m_textWidth; }
+
+  bool GetValue(int32& out) override;
+  bool SetValue(int32 value) override;
+  bool GetValue(double& out) override;
+  bool SetValue(double value) override;
+  bool GetValue(Vec2d& out) override;
+  bool SetValue(Vec2d value) override;
+  bool GetValue(Vec3d& out) override;
+  bool SetValue(Vec3d value) override;
+  bool GetValue(Vec4d& out) override;
+  bool SetValue(Vec4d value) override;
+  bool GetValue(Quaternion& out) override;
+  bool SetValue(Quaternion value) override;
+  bool GetValue(Color& out) override;
+  bool SetValue(Color value) override;
+  bool GetValue(ColorA& out) override;
+  bool SetValue(ColorA value) override;
+  bool GetValue(VornString& out) override;
+  bool SetValue(VornString value) override;
+
+ protected:
+  int m_width;
+  int m_height;
+  VornString m_name, m_error, m_valueType, m_widget;
+  wxFont m_nameFont;
+  AssetManager* m_pAssetManager;  // not owned
+  int32 m_int = 0;
+  double m_real = 0.0;
+  Vec2d m_vec2;
+  Vec3d m_vec3;
+  Vec4d m_vec4;
+  Quaternion m_quaternion;
+  Color m_color;
+  ColorA m_colorA;
+  VornString m_string;
+  int m_nameWidth = 0;
+  int m_textWidth = 0;
+  int m_lineHeight = 0;
+  wxColour m_textColour;
+};
+
+class VornLBBranchNode;
+
+// The list-box branch's group: a choice goes to the node.
+class VornLBBranchNodeCG : public VornControlGroup {
+ public:
+  explicit VornLBBranchNodeCG(VornLBBranchNode* owner) : m_pOwner(owner) {}
+  using VornControlGroup::ControlSelected;
+  void ControlSelected(unsigned int id, VornControl* control) override;
+  VornLBBranchNode* GetOwner() const { return m_pOwner; }
+
+ private:
+  VornLBBranchNode* m_pOwner;  // not owned: the owner holds this group
+};
+
+// A branch whose header carries a list: right of the name while the branch
+// is collapsed, at the sub-tree's left offset (half its height lower) while
+// it is open. The host calls DoStartSequence once the node is in the tree.
+class VornLBBranchNode : public LBDisplayCallback, public VornBranchNode {
+ public:
+  VornLBBranchNode(VornTreeNode* parent, VornString name);
+  ~VornLBBranchNode() override;
+
+  // Loads "vuitree_listbox.lbs" and "vuiedit_tree_lbfont", makes the list
+  // in the header, lets OnStartUp fill it and shows it. False when the
+  // header has no window.
+  bool DoStartSequence();
+
+  // ---- hooks
+  void OnExpand() override;
+  void OnCollapse() override;
+  // Fills the list (the default adds nothing).
+  virtual void OnStartUp();
+  // The user chose a row: the default sends a NodeChangedHint with the
+  // branch's id to the tree's group.
+  virtual void OnItemSelected();
+  // Called before the list opens (the default keeps the items).
+  void UpDateData(VornListBox* list) override;
+
+  VornListBox* GetListBox() const { return m_pList; }
+  // Where the list sits for the branch's state.
+  wxPoint GetListPosition();
+
+ protected:
+  void PlaceList();
+
+  VornLBBranchNodeCG m_listGroup{this};
+  VornListBox* m_pList = nullptr;  // a child window of the header
+  wxFont m_listFont;
+};
+
+// The movie bar drawn as the tree draws: the track a line in the tree's
+// line colour, the sub-range a band, the played part in the highlight
+// colour, on the tree's background.
+class VornVUIMovieBar : public VornMovieBar {
+ public:
+  VornVUIMovieBar(const wxBitmap* startMarker, const wxBitmap* endMarker, const wxBitmap* playhead,
+                  int x, int y, int w, int h, wxWindow* parent, int id, VornControlGroup* group,
+                  long style = 0);
+  ~VornVUIMovieBar() override;
+
+  void SetTreeColours(const Color& background, const Color& line, const Color& played);
+  void OnDraw(wxDC* dc) override;
+
+ protected:
+  Color m_background{0.0, 0.0, 0.0};
+  Color m_line{1.0, 1.0, 1.0};
+  Color m_played{0.0, 0.6, 0.6};
+};

@@ -35,3 +35,24 @@ constexpr const char* kTextToNumeric = "dynamic_cast<StringValMessage*>(hint) ==
 constexpr int kRealDecimals = 6;  // "%.6f"
 
 }  // namespace VUITreeTexts
+
+// The angle and list editors, the error control and list-box branches.
+namespace VUITreeTexts {
+
+constexpr const char* kListScript = "vuitree_listbox.lbs";
+constexpr const char* kErrorFont = "vui_control_name";
+constexpr const char* kDialRing = "dial_ring";
+constexpr const char* kDialNeedle = "dial_needle";
+constexpr const char* kClippersFrame = "calliper_frame";
+constexpr const char* kClippersScale = "calliper_scale";
+constexpr const char* kClippersMarker = "calliper_marker";
+constexpr const char* kErrorText = "vuiedit_tree_ContNameCol";
+
+// The error control's three lines.
+constexpr const char* kErrorLine = "Error: ";
+constexpr const char* kValTypeLine = "ValType: ";
+constexpr const char* kWidgetLine = "Widget: ";
+
+constexpr const char* kNoHeaderWindow = "this->m_Controlptr->GetHandle() != __null";
+
+}  // namespace VUITreeTexts
