@@ -584,3 +584,138 @@ class VUITreeMaterialButton : public VUITreeSubPrimBase {
   VUITreeMaterialButton(AssetManager* assetman, VornString name, bool functionable);
   ~VUITreeMaterialButton() override;
 };
+
+class VUITreeMonsterBox;
+class VUITreePopControl;
+
+// The toggle beside a table editor's box: on while the box is open.
+class VornVUIMonToggleButton : public VornButton {
+ public:
+  VornVUIMonToggleButton(VUITreeMonsterBox* owner, const VornwxBitmapCache* images, int x, int y,
+                         wxWindow* parent, int id);
+  // A click (released over it) opens or closes the box.
+  void OnMouseButton() override;
+
+ private:
+  VUITreeMonsterBox* m_pOwner;  // the parent window
+};
+
+// A multi-column box that opens inside the tree under a toggle. The box
+// reports to an inner group: its cells' changes become node hints, and a
+// resize by its grip lays the tree out again.
+class VUITreeMonsterBox : public VUITreeControlBase {
+ public:
+  static constexpr int kBoxMargin = 8;  // above and below the open box
+  static constexpr int kToggleId = 1;
+  static constexpr int kBoxId = 2;
+
+  // The box is boxWidth x boxHeight when first opened.
+  VUITreeMonsterBox(AssetManager* assetman, VornString name, bool functionable, int boxWidth,
+                    int boxHeight, bool open = false);
+  ~VUITreeMonsterBox() override;
+  bool Create(wxWindow* parent, int id, VornControlGroup* group, long style = 0) override;
+  using VUITreeControlBase::Create;
+
+  // The box, for the host to fill (columns, rows, buttons); made by Create.
+  VornMonsterBox* GetMonsterBox() const { return m_pBox; }
+  VornVUIMonToggleButton* GetToggle() const { return m_pToggle; }
+  // Opens or closes the box; the tree lays itself out again.
+  void SetOpen(bool open);
+  bool IsOpen() const { return m_bOpen; }
+  // From the alignment line to the box: the toggle's column.
+  int GetOffset() const;
+
+  int GetMaxHeight() override;  // the open box's height + 16, else 32
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+
+ protected:
+  int EditorWidth() override;  // the offset and the open box's width
+  // Sizes the window to the metrics, places the parts and re-lays out the tree.
+  void FitToBox();
+  void PlaceParts();
+  wxSize BoxSize() const;
+
+  int m_boxWidth, m_boxHeight;
+  bool m_bOpen;
+  const VornwxBitmapCache* m_pToggleImages = nullptr;  // the manager's
+  VornControlGroupValue m_boxGroup;                    // the box, its cells and this control
+  VornMonsterBox* m_pBox = nullptr;                    // a child window
+  VornVUIMonToggleButton* m_pToggle = nullptr;         // a child window
+};
+
+// The toggle beside a pop-up box: on while the box is open.
+class VornTreePopToggleButton : public VornButton {
+ public:
+  VornTreePopToggleButton(VUITreePopControl* owner, const VornwxBitmapCache* images, int x, int y,
+                          wxWindow* parent, int id);
+  // A click (released over it) opens or closes the box.
+  void OnMouseButton() override;
+
+ private:
+  VUITreePopControl* m_pOwner;  // the parent window
+};
+
+// A box of the host's own controls that pops open inside the tree under a
+// toggle. The host makes its controls children of GetBox() reporting to
+// GetBoxGroup(); their change hints become node hints.
+class VUITreePopControl : public VUITreeControlBase {
+ public:
+  static constexpr int kBoxMargin = 8;  // above and below the open box
+  static constexpr int kToggleId = 1;
+
+  VUITreePopControl(AssetManager* assetman, VornString name, bool functionable, int boxWidth,
+                    int boxHeight, bool open = false);
+  ~VUITreePopControl() override;
+  bool Create(wxWindow* parent, int id, VornControlGroup* group, long style = 0) override;
+  using VUITreeControlBase::Create;
+
+  // The box the host fills (made by Create) and the group its controls join.
+  wxWindow* GetBox() const { return m_pBox; }
+  VornControlGroup* GetBoxGroup() { return &m_boxGroup; }
+  VornTreePopToggleButton* GetToggle() const { return m_pToggle; }
+  void SetOpen(bool open);
+  bool IsOpen() const { return m_bOpen; }
+  // Resizes the box; the tree lays itself out again when it is open.
+  void SetBoxSize(int w, int h);
+  int GetOffset() const;
+
+  int GetMaxHeight() override;  // the open box's height + 16, else 32
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+
+ protected:
+  int EditorWidth() override;
+  void PlaceParts();
+  void FitToBox();
+
+  int m_boxWidth, m_boxHeight;
+  bool m_bOpen;
+  const VornwxBitmapCache* m_pToggleImages = nullptr;  // the manager's
+  VornControlGroupValue m_boxGroup;                    // the host's controls and this one
+  wxWindow* m_pBox = nullptr;                          // a child window
+  VornTreePopToggleButton* m_pToggle = nullptr;        // a child window
+};
+
+// A small marker leaf (19 x 12, aligned at 9): a blob in the tree's line
+// colour, drawn from an image made for the control's colours.
+class VornBlobbyControl : public VornVUIControl {
+ public:
+  static constexpr int kWidth = 19;
+  static constexpr int kHeight = 12;
+  static constexpr int kAlignment = 9;
+
+  VornBlobbyControl();
+  ~VornBlobbyControl() override;
+
+  int GetAllignmentPt() override { return kAlignment; }
+  int GetMaxWidth() override { return kWidth; }
+  int GetMaxHeight() override { return kHeight; }
+  void OnDraw(wxDC* dc) override;
+
+  // The blob: an anti-aliased disc of colour blob on background.
+  static wxBitmap MakeBlobImage(const Color& background, const Color& blob);
+
+ private:
+  wxBitmap m_blob;         // made for the colours below
+  Color m_blobBackground;  // the colours m_blob was made for
+  Color m_blobColour;
+};

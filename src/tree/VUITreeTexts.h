@@ -46,4 +46,6 @@ constexpr const char* kGradientButton = "vui_tree_prim_gradient.sts";
 constexpr const char* kMaterialButton = "vui_tree_prim_material.sts";
 constexpr const char* kTableToggle = "vui_tree_montoggle.sts";
 constexpr const char* kPopToggle = "vui_tree_poptoggle.sts";
+// Optional: the fill of an open pop-up box (the tree's background without it).
+constexpr const char* kPopBoxColour = "vuiedit_tree_popbox";
 }  // namespace VUITreeTexts
