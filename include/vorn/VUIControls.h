@@ -618,6 +618,9 @@ class VUITreeMonsterBox : public VUITreeControlBase {
 
   // The box, for the host to fill (columns, rows, buttons); made by Create.
   VornMonsterBox* GetMonsterBox() const { return m_pBox; }
+  // Fills the box now if it exists, else as soon as Create has made it (a
+  // leaf's windows may be made only when its branch first opens).
+  void WhenBoxReady(std::function<void(VornMonsterBox*)> fill);
   VornVUIMonToggleButton* GetToggle() const { return m_pToggle; }
   // Opens or closes the box; the tree lays itself out again.
   void SetOpen(bool open);
@@ -637,6 +640,7 @@ class VUITreeMonsterBox : public VUITreeControlBase {
 
   int m_boxWidth, m_boxHeight;
   bool m_bOpen;
+  std::function<void(VornMonsterBox*)> m_fill;         // waiting for Create
   const VornwxBitmapCache* m_pToggleImages = nullptr;  // the manager's
   VornControlGroupValue m_boxGroup;                    // the box, its cells and this control
   VornMonsterBox* m_pBox = nullptr;                    // a child window
@@ -673,6 +677,8 @@ class VUITreePopControl : public VUITreeControlBase {
   wxWindow* GetBox() const { return m_pBox; }
   VornControlGroup* GetBoxGroup() { return &m_boxGroup; }
   VornTreePopToggleButton* GetToggle() const { return m_pToggle; }
+  // Fills the box now if it exists, else as soon as Create has made it.
+  void WhenBoxReady(std::function<void(wxWindow* box, VornControlGroup* group)> fill);
   void SetOpen(bool open);
   bool IsOpen() const { return m_bOpen; }
   // Resizes the box; the tree lays itself out again when it is open.
@@ -689,10 +695,11 @@ class VUITreePopControl : public VUITreeControlBase {
 
   int m_boxWidth, m_boxHeight;
   bool m_bOpen;
-  const VornwxBitmapCache* m_pToggleImages = nullptr;  // the manager's
-  VornControlGroupValue m_boxGroup;                    // the host's controls and this one
-  wxWindow* m_pBox = nullptr;                          // a child window
-  VornTreePopToggleButton* m_pToggle = nullptr;        // a child window
+  std::function<void(wxWindow*, VornControlGroup*)> m_fill;  // waiting for Create
+  const VornwxBitmapCache* m_pToggleImages = nullptr;        // the manager's
+  VornControlGroupValue m_boxGroup;                          // the host's controls and this one
+  wxWindow* m_pBox = nullptr;                                // a child window
+  VornTreePopToggleButton* m_pToggle = nullptr;              // a child window
 };
 
 // A small marker leaf (19 x 12, aligned at 9): a blob in the tree's line

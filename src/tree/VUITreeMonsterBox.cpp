@@ -1,6 +1,8 @@
 // The tree's table editor: a multi-column box that opens under a toggle.
 // The box's height follows its grip, and every change of the control's size
 // lays the whole tree out again.
+#include <utility>
+
 #include "VUITreeOpenBox.h"
 #include "VUITreeTexts.h"
 #include "vorn/VUIControls.h"
@@ -46,10 +48,18 @@ bool VUITreeMonsterBox::Create(wxWindow* parent, int id, VornControlGroup* group
   m_pToggle = new VornVUIMonToggleButton(this, m_pToggleImages, EditorLeft(), 0, this, kToggleId);
   m_pToggle->SetOn(m_bOpen);
   m_pBox->Show(m_bOpen);
+  if (m_fill) std::exchange(m_fill, nullptr)(m_pBox);
   // The node lays the tree out once the leaf is in it.
   SetSize(GetMaxWidth(), GetMaxHeight());
   PlaceParts();
   return true;
+}
+
+void VUITreeMonsterBox::WhenBoxReady(std::function<void(VornMonsterBox*)> fill) {
+  if (m_pBox && fill)
+    fill(m_pBox);
+  else
+    m_fill = std::move(fill);
 }
 
 wxSize VUITreeMonsterBox::BoxSize() const {

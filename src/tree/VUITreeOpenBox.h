@@ -1,9 +1,13 @@
 #pragma once
 // Where the toggle and the box of an editor that opens a box inside the tree
 // (the table and pop-up editors) lie: the toggle right of the alignment line,
-// centred in the control's height; the open box right of the toggle's
-// column, with a margin above and below.
+// in the control's top row beside the name; the open box right of the
+// toggle's column, with a margin above and below.
 #include <wx/gdicmn.h>
+
+#include <algorithm>
+
+#include "TreeDrawing.h"
 
 namespace vorn_tree {
 
@@ -24,7 +28,7 @@ inline OpenBoxGeometry ComputeOpenBox(int alignment, const wxSize& toggle, const
   g.offset = gap + toggle.x + gap;
   g.width = open ? g.offset + box.x : closedWidth;
   g.height = open ? box.y + 2 * margin : closedHeight;
-  g.toggle = wxPoint(alignment + gap, (g.height - toggle.y) / 2);
+  g.toggle = wxPoint(alignment + gap, (std::min(g.height, kHeaderRowHeight) - toggle.y) / 2);
   g.box = wxPoint(alignment + g.offset, margin);
   return g;
 }

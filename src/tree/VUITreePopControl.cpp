@@ -2,6 +2,8 @@
 // toggle; opening, closing and resizing it lay the tree out again.
 #include <wx/panel.h>
 
+#include <utility>
+
 #include "VUITreeOpenBox.h"
 #include "VUITreeTexts.h"
 #include "vorn/GraphicsFunctions.h"
@@ -34,10 +36,18 @@ bool VUITreePopControl::Create(wxWindow* parent, int id, VornControlGroup* group
   m_pToggle = new VornTreePopToggleButton(this, m_pToggleImages, EditorLeft(), 0, this, kToggleId);
   m_pToggle->SetOn(m_bOpen);
   m_pBox->Show(m_bOpen);
+  if (m_fill) std::exchange(m_fill, nullptr)(m_pBox, &m_boxGroup);
   // The node lays the tree out once the leaf is in it.
   SetSize(GetMaxWidth(), GetMaxHeight());
   PlaceParts();
   return true;
+}
+
+void VUITreePopControl::WhenBoxReady(std::function<void(wxWindow*, VornControlGroup*)> fill) {
+  if (m_pBox && fill)
+    fill(m_pBox, &m_boxGroup);
+  else
+    m_fill = std::move(fill);
 }
 
 int VUITreePopControl::GetOffset() const {

@@ -51,8 +51,12 @@ TEST(TreeOpenBox, BothEditorsAreARowWhenClosedAndTheirBoxWithMarginsWhenOpen) {
   EXPECT_EQ(pop->GetMaxHeight(), 60 + 16);
   EXPECT_EQ(pop->GetBox()->GetRect(), wxRect(106, 8, 200, 60));
   EXPECT_TRUE(pop->GetBox()->IsShown());
-  // The toggle stays beside the box, centred in the taller row.
-  EXPECT_EQ(table->GetToggle()->GetPosition(), wxPoint(84, (166 - 18) / 2));
+  // The toggle stays in the top row, beside the name and the box's top.
+  EXPECT_EQ(table->GetToggle()->GetPosition(), wxPoint(84, (36 - 18) / 2));
+  // So does the name's connector, where the tree's line meets the row.
+  const wxBitmap label = Render(table, table->GetMaxWidth(), 166);
+  EXPECT_EQ(PixelAt(label, 1, 18), CtoWxC(table->GetLineCol()));
+  EXPECT_EQ(PixelAt(label, 1, 83), CtoWxC(table->GetBackgroundCol()));
 
   Click(pop->GetToggle());
   EXPECT_FALSE(pop->IsOpen());
@@ -138,6 +142,41 @@ TEST(TreeOpenBox, APopUpBoxResizedByTheHostIsLaidOutAgainWhileOpen) {
   EXPECT_EQ(pop->GetBox()->GetSize(), wxSize(180, 50));
   const Rect r = DisplayOf(popNode);
   EXPECT_EQ(r.x2 - r.x1, pop->GetAllignmentPt() + 26 + 180);
+}
+
+TEST(TreeOpenBox, TheHostFillsABoxOnceItsWindowsExist) {
+  TreeOnFrame t;
+  auto* branch = new VornBranchNode(t.root, "Closed");
+  t.root->AddToEnd(branch);
+  auto* table = t.Add(branch->GetTree(), new VUITreeMonsterBox(&Skin(), "Rows", false, 200, 80));
+  auto* pop = t.Add(branch->GetTree(), new VUITreePopControl(&Skin(), "More", false, 120, 30));
+  int tableFills = 0, popFills = 0;
+  table->WhenBoxReady([&](VornMonsterBox* box) {
+    ++tableFills;
+    box->AddColumn("A", *wxWHITE, 50);
+  });
+  pop->WhenBoxReady([&](wxWindow* box, VornControlGroup* group) {
+    ++popFills;
+    EXPECT_EQ(group, pop->GetBoxGroup());
+    new wxWindow(box, wxID_ANY);
+  });
+  // A closed branch's leaves get their windows when it first opens.
+  EXPECT_EQ(table->GetMonsterBox(), nullptr);
+  EXPECT_EQ(tableFills + popFills, 0);
+  branch->Expand();
+  t.tree->RefreshTree();
+  ASSERT_NE(table->GetMonsterBox(), nullptr);
+  EXPECT_EQ(tableFills, 1);
+  EXPECT_EQ(popFills, 1);
+  EXPECT_EQ(table->GetMonsterBox()->GetColumnCount(), 1);
+  EXPECT_EQ(pop->GetBox()->GetChildren().GetCount(), 1u);
+  // A box that exists is filled at once.
+  table->WhenBoxReady([&](VornMonsterBox* box) {
+    ++tableFills;
+    box->AddColumn("B", *wxWHITE, 50);
+  });
+  EXPECT_EQ(tableFills, 2);
+  EXPECT_EQ(table->GetMonsterBox()->GetColumnCount(), 2);
 }
 
 TEST(TreeOpenBox, TheBlobIsADiscInTheLineColourOnTheRow) {
