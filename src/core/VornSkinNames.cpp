@@ -44,6 +44,16 @@ const std::vector<VornSkinName>& VornToolkitSkinNames() {
       {N::kAsset, "vui_tree_funcbutn.lbs", "parameter tree"},
       {N::kAsset, "vui_tree_checkbox.sts", "parameter tree"},
       {N::kAsset, "vuiedit_tree_toggle.sts", "parameter tree"},
+      // The tree's button, table and pop-up editors.
+      {N::kAsset, "vui_tree_prim_colour.sts", "parameter tree"},
+      {N::kAsset, "vui_tree_prim_texture.sts", "parameter tree"},
+      {N::kAsset, "vui_tree_prim_function.sts", "parameter tree"},
+      {N::kAsset, "vui_tree_prim_curve.sts", "parameter tree"},
+      {N::kAsset, "vui_tree_prim_gradient.sts", "parameter tree"},
+      {N::kAsset, "vui_tree_prim_material.sts", "parameter tree"},
+      {N::kAsset, "vui_tree_montoggle.sts", "parameter tree"},
+      {N::kAsset, "vui_tree_poptoggle.sts", "parameter tree"},
+      {N::kColour, "vuiedit_tree_popbox", "parameter tree"},
   };
   return names;
 }
