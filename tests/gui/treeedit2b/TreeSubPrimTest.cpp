@@ -31,10 +31,7 @@ TEST(TreeSubPrim, WidthIsTheImageAndItsMarginOrOnlyTheMarginWithoutImages) {
       // The skin's faces are 34 pixels wide.
       {"colour", [&] { return new VUITreeColorButton(&Skin(), "n", false); }, 34 + 35},
       {"texture", [&] { return new VUITreeTextureButton(&Skin(), "n", false); }, 34 + 35},
-      {"function", [&] { return new VUITreeFunctionButton(&Skin(), "n", false); }, 34 + 35},
-      {"curve", [&] { return new VUITreeCurveButton(&Skin(), "n", false); }, 34 + 35},
       {"gradient", [&] { return new VUITreeGradientButton(&Skin(), "n", false); }, 34 + 35},
-      {"material", [&] { return new VUITreeMaterialButton(&Skin(), "n", false); }, 34 + 35},
   };
   int id = 10;
   for (const Case& c : cases) {
