@@ -579,6 +579,65 @@ void TreeEditorMasks(Writer& out) {
   out("treebranch_shape.png", Fill(16, 16, Circle(8, 8, 7.5f)));
 }
 
+// Parameter tree button editors: a 34 x 18 face whose glyph names the editor
+// it opens (texture, function, curve, gradient, material; the colour button
+// has a well its swatch is painted into), and the glyphs of the 18 x 18
+// toggles that open a table or a pop-up box (on the function button's face).
+void TreeButtonEditorMasks(Writer& out) {
+  const int w = 34, h = 18;
+  RaisedFace(out, "treeprim", w, h, 3);
+  out("treeprim_well.png", Fill(w, h, RoundRect(3, 3, w - 3, h - 3, 2)));
+  const Field frame =
+      Subtract(RoundRect(11, 3.5f, 23, 14.5f, 1), RoundRect(12.2f, 4.7f, 21.8f, 13.3f, 0.5f));
+  const Field texture =
+      Union(frame, Union(RoundRect(12, 4.5f, 17, 9, 0), RoundRect(17, 9, 22, 13.5f, 0)));
+  Field wave = Segment(9, 9, 10, 9, 0.85f);
+  for (int i = 0; i < 16; ++i) {
+    const float x0 = 9 + i, x1 = 10 + i;
+    wave = Union(wave, Segment(x0, 9 - 4 * std::sin((x0 - 9) / 16 * 6.2832f), x1,
+                               9 - 4 * std::sin((x1 - 9) / 16 * 6.2832f), 0.85f));
+  }
+  Field curve = Union(Circle(9, 14, 1.4f), Circle(25, 4, 1.4f));
+  for (int i = 0; i < 16; ++i) {
+    auto ease = [](float t) { return t * t * (3 - 2 * t); };
+    const float t0 = i / 16.f, t1 = (i + 1) / 16.f;
+    curve = Union(curve,
+                  Segment(9 + 16 * t0, 14 - 10 * ease(t0), 9 + 16 * t1, 14 - 10 * ease(t1), 0.8f));
+  }
+  const Field sphere = Subtract(Circle(17, 9, 5.5f), Circle(17, 9, 4.5f));
+  const Field material = Union(sphere, Circle(15.2f, 7.2f, 1.7f));
+  struct Glyph {
+    const char* name;
+    Field f;
+  };
+  const Glyph glyphs[] = {
+      {"texture", texture}, {"function", wave}, {"curve", curve}, {"material", material}};
+  for (const Glyph& g : glyphs) {
+    const Field f = g.f;
+    out(std::string("treeprim_") + g.name + ".png", Fill(w, h, f));
+    out(std::string("treeprim_") + g.name + "_down.png",
+        Fill(w, h, [=](float x, float y) { return f(x, y - 1); }));
+  }
+  // The gradient glyph is a ramp: coverage grows from left to right.
+  for (int down = 0; down < 2; ++down) {
+    const Mask bar = Fill(w, h, RoundRect(9, 4.5f + down, 25, 13.5f + down, 1));
+    out(down ? "treeprim_gradient_down.png" : "treeprim_gradient.png",
+        Combine(bar, [](int x, int, float v) { return v * Clamp01((x - 8.5f) / 16.f); }));
+  }
+  const Field table =
+      Union(Subtract(RoundRect(4, 4.5f, 14, 13.5f, 1), RoundRect(5.2f, 5.7f, 12.8f, 12.3f, 0.5f)),
+            Union(Segment(5, 9, 13, 9, 0.55f), Segment(9, 5, 9, 13, 0.55f)));
+  const Field opened = Chevron(9, 9, 3.5f, 3.5f, -1, 0.9f);
+  const Field closed = Chevron(9, 9, 3.5f, 3.5f, 1, 0.9f);
+  const Glyph toggles[] = {{"table", table}, {"open", opened}, {"closed", closed}};
+  for (const Glyph& g : toggles) {
+    const Field f = g.f;
+    out(std::string("treetoggle_") + g.name + ".png", Fill(18, 18, f));
+    out(std::string("treetoggle_") + g.name + "_down.png",
+        Fill(18, 18, [=](float x, float y) { return f(x, y - 1); }));
+  }
+}
+
 void Generate(Writer& out) {
   // Push button: a 32 x 32 tool face with a plus glyph.
   RaisedFace(out, "push", 32, 32, 6);
@@ -694,6 +753,7 @@ void Generate(Writer& out) {
   ListButtonMasks(out);
   MenuAndBarMasks(out);
   TreeEditorMasks(out);
+  TreeButtonEditorMasks(out);
 }
 
 }  // namespace

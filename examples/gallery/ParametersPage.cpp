@@ -37,6 +37,8 @@ class NodeHintLogger : public MessageReceiver {
     else if (auto* h = dynamic_cast<FunctionButtonPushHint*>(hint))
       Note("FunctionButtonPushHint", h->m_nodeId,
            wxString::Format("  type %d (was %d)", h->m_newType, h->m_previousType));
+    else if (auto* h = dynamic_cast<NodeButtonPushHint*>(hint))
+      Note("NodeButtonPushHint", h->m_nodeId, wxString::Format("  button %d", h->m_buttonId));
   }
 
  private:
@@ -238,6 +240,7 @@ class ParametersPage : public GalleryPage {
       }
     }
     BuildAnglesAndChoices(am, root);
+    BuildLinkedEditors(root);
   }
 
   // Angles, lists, an error control and a list-box branch, with the tree's
@@ -287,6 +290,47 @@ class ParametersPage : public GalleryPage {
     }
   }
 
+  // A branch of the editors that open something: the colour dialog, the
+  // host's texture, function, curve, gradient and material editors, a table
+  // and a pop-up box that open inside the tree; and a marker.
+  void BuildLinkedEditors(VornTreeNode* root) {
+    AssetManager* am = &m_ctx.Assets();
+    m_pLinked = Branch(root, "Linked editors");
+    VornTreeNode* l = m_pLinked->GetTree();
+    Leaf(l, "Tint", new VUITreeColorButton(am, Name("Tint"), false, Color(0.22, 0.74, 0.77)));
+    Leaf(l, "Bump map", new VUITreeTextureButton(am, Name("Bump map"), true));
+    Leaf(l, "Displacement", new VUITreeFunctionButton(am, Name("Displacement"), true));
+    Leaf(l, "Falloff", new VUITreeCurveButton(am, Name("Falloff"), false));
+    Leaf(l, "Colour ramp", new VUITreeGradientButton(am, Name("Colour ramp"), false));
+    Leaf(l, "Coating", new VUITreeMaterialButton(am, Name("Coating"), false));
+    m_pKeys = Leaf(l, "Keyframes", new VUITreeMonsterBox(am, Name("Keyframes"), false, 300, 140));
+    // The leaves' windows are made when the branch first opens: fill then.
+    m_pKeys->WhenBoxReady([this](VornMonsterBox* box) {
+      const wxColour title = m_ctx.Colour("table_heading_text");
+      const wxColour text = m_ctx.Colour("table_cell_text");
+      box->SetMaxSize(260);
+      box->AddColumn(Utf8(m_ctx.Msg("Frame")), title, 90);
+      box->AddColumn(Utf8(m_ctx.Msg("Value")), title, 110);
+      box->AddColumn(Utf8(m_ctx.Msg("On")), title, 50);
+      for (int i = 0; i < 8; ++i) {
+        box->AddEntry(0, Utf8(wxString::Format("%d", i * 12)), text, false);
+        box->AddEntry(1, Utf8(wxString::Format("%.2f", 0.5 + 0.25 * (i % 3))), text, true);
+        box->AddEntry(2, m_ctx.Images("table_check.sts"), i % 2 == 0);
+      }
+    });
+    m_pAdvanced = Leaf(l, "Advanced", new VUITreePopControl(am, Name("Advanced"), false, 240, 36));
+    m_pAdvanced->WhenBoxReady([this](wxWindow* inside, VornControlGroup* group) {
+      auto* toggle =
+          new VornButtonToggle(m_ctx.Images("button_toggle.sts"), 6, 0, inside, 1, group);
+      toggle->Move(6, (36 - toggle->GetSize().y) / 2);
+      auto* label = new wxStaticText(inside, wxID_ANY, m_ctx.Msg("Cast caustics"),
+                                     wxPoint(toggle->GetSize().x + 14, 10));
+      label->SetForegroundColour(m_ctx.Colour("text"));
+      label->SetFont(m_ctx.Font("small"));
+    });
+    Leaf(l, "Marker", new VornBlobbyControl);
+  }
+
   VornControlGroup m_group;  // the host's tree group: only the node hints are logged
   NodeHintLogger m_logger;
   std::map<int, wxString> m_names;
@@ -304,6 +348,9 @@ class ParametersPage : public GalleryPage {
   VUITreeAngleClippers* m_pCone = nullptr;
   VUITreeAngleSelect* m_pHeading = nullptr;
   VUITreeEnumLB* m_pFilter = nullptr;
+  VornBranchNode* m_pLinked = nullptr;
+  VUITreeMonsterBox* m_pKeys = nullptr;
+  VUITreePopControl* m_pAdvanced = nullptr;
 };
 
 const GalleryPageRegistrar kRegistrar({97, "Parameters", "parameters",

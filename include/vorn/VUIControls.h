@@ -2,17 +2,22 @@
 // The parameter tree's editors: the hints they send to the tree's group and
 // the sub-controls that keep the editors of one parameter in step. Each
 // sub-control shows a sibling's value message without reporting back.
+#include <functional>
 #include <memory>
+#include <optional>
 
 #include "vorn/AssetManager.h"
 #include "vorn/ValInterface.h"
+#include "vorn/VornAngleControl.h"
 #include "vorn/VornButton.h"
 #include "vorn/VornControlGroup.h"
 #include "vorn/VornEdit.h"
 #include "vorn/VornListBox.h"
+#include "vorn/VornMovieBar.h"
 #include "vorn/VornNode.h"
 #include "vorn/VornSlider.h"
 #include "vorn/VornThumbWheelControl.h"
+#include "vornhost/Utility.h"
 
 // ---- hints sent to the tree's group ---------------------------------------------
 
@@ -410,9 +415,6 @@ class VUITreeExpandTextEdits : public VUITreeControlBase,
 };
 
 // ---- angle editors, list editors, the error control, list-box branches -----------
-#include "vorn/VornAngleControl.h"
-#include "vorn/VornMovieBar.h"
-#include "vornhost/Utility.h"
 
 // A dial that shows a sibling's value message (a turn, 0 to 1) without
 // reporting back; a text message is a wiring error.
@@ -631,6 +633,89 @@ class ErrorControl : public IntVal,
   wxRect GetTextRect();
   int GetTextWidth() const { return m_textWidth; }
 
+// ---- button, table and pop-up editors ---------------------------------------------
+
+// Leaves whose editor is a button that hands the parameter to a bigger editor
+// (a colour dialog, or the host's texture, function, curve, gradient or
+// material editor), a multi-column box or a pop-up box that opens inside the
+// tree, and a small marker.
+
+class VornColourDialog;
+class VornMonsterBox;
+class VUITreeSubPrimBase;
+
+// A sub-primitive button was pressed and the host's editor should open.
+class NodeButtonPushHint : public VornControlHint {
+ public:
+  explicit NodeButtonPushHint(int nodeId = -1, int buttonId = 0)
+      : m_nodeId(nodeId), m_buttonId(buttonId) {}
+  ~NodeButtonPushHint() override;
+  int m_nodeId;    // -1 when the control has no node
+  int m_buttonId;  // the id of the button pressed, inside its control
+};
+
+// The sub-primitive button's group: a completed click goes to the owner.
+// (On the release, so that a dialog opened by it does not take the release.)
+class VUITreeSubPrimBaseCG : public VornControlGroup {
+ public:
+  explicit VUITreeSubPrimBaseCG(VUITreeSubPrimBase* owner) : m_pOwner(owner) {}
+  using VornControlGroup::ControlUnSelected;
+  void ControlUnSelected(unsigned int id, VornControl* control) override;
+  VUITreeSubPrimBase* GetOwner() const { return m_pOwner; }
+
+ private:
+  VUITreeSubPrimBase* m_pOwner;  // not owned: the owner holds this group
+};
+
+// A leaf whose editor is one button drawn from an image set. Without an
+// image set there is no button (the control is then only its name).
+class VUITreeSubPrimBase : public VUITreeControlBase {
+ public:
+  static constexpr int kImageSpace = 35;   // right of the alignment line, beside the image
+  static constexpr int kNoImageSpace = 5;  // right of the alignment line without images
+  static constexpr int kButtonId = 1;
+
+  // images: borrowed (usually the manager's cached set), may be null.
+  VUITreeSubPrimBase(AssetManager* assetman, VornString name, bool functionable,
+                     const VornwxBitmapCache* images);
+  ~VUITreeSubPrimBase() override;
+  bool Create(wxWindow* parent, int id, VornControlGroup* group, long style = 0) override;
+  using VUITreeControlBase::Create;
+
+  const VornwxBitmapCache* GetImageCache() const { return m_pImages; }
+  VornPushButton* GetButton() const { return m_pButton; }
+
+  // ---- hooks
+  // A click on the button: by default a NodeButtonPushHint for the host.
+  virtual void OnButtonPush(int buttonId);
+  // Draws over the button's image (the colour button's swatch); nothing by
+  // default. face: the button's rectangle in its own coordinates.
+  virtual void DrawButtonFace(wxDC& dc, const wxRect& face);
+
+  // The skin's image set name, loaded through the manager's cache (an
+  // assertion when it cannot be loaded).
+  static const VornwxBitmapCache* LoadButtonImages(AssetManager* assetman, const char* name);
+
+ protected:
+  int EditorWidth() override;
+
+  const VornwxBitmapCache* m_pImages;  // not owned
+  VUITreeSubPrimBaseCG m_buttonGroup{this};
+  VornPushButton* m_pButton = nullptr;  // a child window
+};
+
+// The nine stored values of a control that stands in for a parameter of
+// any type: each SetValue stores, each GetValue returns the value stored.
+class VUITreeStoredValues : public IntVal,
+                            public RealVal,
+                            public Vec2dVal,
+                            public Vec3dVal,
+                            public Vec4dVal,
+                            public QuaternionVal,
+                            public ColorVal,
+                            public ColorAVal,
+                            public VornStringVal {
+ public:
   bool GetValue(int32& out) override;
   bool SetValue(int32 value) override;
   bool GetValue(double& out) override;
@@ -738,4 +823,215 @@ class VornVUIMovieBar : public VornMovieBar {
   Color m_background{0.0, 0.0, 0.0};
   Color m_line{1.0, 1.0, 1.0};
   Color m_played{0.0, 0.6, 0.6};
+  int32 m_int = 0;
+  double m_real = 0.0;
+  Vec2d m_vec2{};
+  Vec3d m_vec3{};
+  Vec4d m_vec4{};
+  Quaternion m_quaternion{};
+  Color m_color{};
+  ColorA m_colorA{};
+  VornString m_string;
+};
+
+// A colour swatch on a button; a click opens the colour dialog on the
+// colour and applies the one chosen with OK, reported as a node change.
+class VUITreeColorButton : public VUITreeSubPrimBase, public ColorVal {
+ public:
+  // Runs the dialog and returns the colour chosen, or none. By default the
+  // dialog's own modal Choose(); tests and hosts may drive it otherwise.
+  using DialogStep = std::function<std::optional<Color>(VornColourDialog&)>;
+
+  VUITreeColorButton(AssetManager* assetman, VornString name, bool functionable,
+                     const Color& colour = Color(1.0, 1.0, 1.0));
+  ~VUITreeColorButton() override;
+
+  // Shows the colour; no report (the host set it).
+  bool SetValue(Color value) override;
+  bool GetValue(Color& out) override;
+  void SetDialogStep(DialogStep step) { m_dialogStep = std::move(step); }
+
+  void OnButtonPush(int buttonId) override;
+  void DrawButtonFace(wxDC& dc, const wxRect& face) override;
+
+ protected:
+  Color m_colour;
+  DialogStep m_dialogStep;
+};
+
+// A parameter driven by a texture: a click asks the host for its texture
+// editor; the values of every type are kept for when it turns back into a
+// widget.
+class VUITreeTextureButton : public VUITreeSubPrimBase, public VUITreeStoredValues {
+ public:
+  VUITreeTextureButton(AssetManager* assetman, VornString name, bool functionable);
+  ~VUITreeTextureButton() override;
+};
+
+// A parameter driven by a function; as the texture button.
+class VUITreeFunctionButton : public VUITreeSubPrimBase, public VUITreeStoredValues {
+ public:
+  VUITreeFunctionButton(AssetManager* assetman, VornString name, bool functionable);
+  ~VUITreeFunctionButton() override;
+};
+
+// Buttons that ask the host for its curve, gradient or material editor.
+class VUITreeCurveButton : public VUITreeSubPrimBase {
+ public:
+  VUITreeCurveButton(AssetManager* assetman, VornString name, bool functionable);
+  ~VUITreeCurveButton() override;
+};
+
+class VUITreeGradientButton : public VUITreeSubPrimBase {
+ public:
+  VUITreeGradientButton(AssetManager* assetman, VornString name, bool functionable);
+  ~VUITreeGradientButton() override;
+};
+
+class VUITreeMaterialButton : public VUITreeSubPrimBase {
+ public:
+  VUITreeMaterialButton(AssetManager* assetman, VornString name, bool functionable);
+  ~VUITreeMaterialButton() override;
+};
+
+class VUITreeMonsterBox;
+class VUITreePopControl;
+
+// The toggle beside a table editor's box: on while the box is open.
+class VornVUIMonToggleButton : public VornButton {
+ public:
+  VornVUIMonToggleButton(VUITreeMonsterBox* owner, const VornwxBitmapCache* images, int x, int y,
+                         wxWindow* parent, int id);
+  // A click (released over it) opens or closes the box.
+  void OnMouseButton() override;
+
+ private:
+  VUITreeMonsterBox* m_pOwner;  // the parent window
+};
+
+// A multi-column box that opens inside the tree under a toggle. The box
+// reports to an inner group: its cells' changes become node hints, and a
+// resize by its grip lays the tree out again.
+class VUITreeMonsterBox : public VUITreeControlBase {
+ public:
+  static constexpr int kBoxMargin = 8;  // above and below the open box
+  static constexpr int kToggleId = 1;
+  static constexpr int kBoxId = 2;
+
+  // The box is boxWidth x boxHeight when first opened.
+  VUITreeMonsterBox(AssetManager* assetman, VornString name, bool functionable, int boxWidth,
+                    int boxHeight, bool open = false);
+  ~VUITreeMonsterBox() override;
+  bool Create(wxWindow* parent, int id, VornControlGroup* group, long style = 0) override;
+  using VUITreeControlBase::Create;
+
+  // The box, for the host to fill (columns, rows, buttons); made by Create.
+  VornMonsterBox* GetMonsterBox() const { return m_pBox; }
+  // Fills the box now if it exists, else as soon as Create has made it (a
+  // leaf's windows may be made only when its branch first opens).
+  void WhenBoxReady(std::function<void(VornMonsterBox*)> fill);
+  VornVUIMonToggleButton* GetToggle() const { return m_pToggle; }
+  // Opens or closes the box; the tree lays itself out again.
+  void SetOpen(bool open);
+  bool IsOpen() const { return m_bOpen; }
+  // From the alignment line to the box: the toggle's column.
+  int GetOffset() const;
+
+  int GetMaxHeight() override;  // the open box's height + 16, else 32
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+
+ protected:
+  int EditorWidth() override;  // the offset and the open box's width
+  // Sizes the window to the metrics, places the parts and re-lays out the tree.
+  void FitToBox();
+  void PlaceParts();
+  wxSize BoxSize() const;
+
+  int m_boxWidth, m_boxHeight;
+  bool m_bOpen;
+  std::function<void(VornMonsterBox*)> m_fill;         // waiting for Create
+  const VornwxBitmapCache* m_pToggleImages = nullptr;  // the manager's
+  VornControlGroupValue m_boxGroup;                    // the box, its cells and this control
+  VornMonsterBox* m_pBox = nullptr;                    // a child window
+  VornVUIMonToggleButton* m_pToggle = nullptr;         // a child window
+};
+
+// The toggle beside a pop-up box: on while the box is open.
+class VornTreePopToggleButton : public VornButton {
+ public:
+  VornTreePopToggleButton(VUITreePopControl* owner, const VornwxBitmapCache* images, int x, int y,
+                          wxWindow* parent, int id);
+  // A click (released over it) opens or closes the box.
+  void OnMouseButton() override;
+
+ private:
+  VUITreePopControl* m_pOwner;  // the parent window
+};
+
+// A box of the host's own controls that pops open inside the tree under a
+// toggle. The host makes its controls children of GetBox() reporting to
+// GetBoxGroup(); their change hints become node hints.
+class VUITreePopControl : public VUITreeControlBase {
+ public:
+  static constexpr int kBoxMargin = 8;  // above and below the open box
+  static constexpr int kToggleId = 1;
+
+  VUITreePopControl(AssetManager* assetman, VornString name, bool functionable, int boxWidth,
+                    int boxHeight, bool open = false);
+  ~VUITreePopControl() override;
+  bool Create(wxWindow* parent, int id, VornControlGroup* group, long style = 0) override;
+  using VUITreeControlBase::Create;
+
+  // The box the host fills (made by Create) and the group its controls join.
+  wxWindow* GetBox() const { return m_pBox; }
+  VornControlGroup* GetBoxGroup() { return &m_boxGroup; }
+  VornTreePopToggleButton* GetToggle() const { return m_pToggle; }
+  // Fills the box now if it exists, else as soon as Create has made it.
+  void WhenBoxReady(std::function<void(wxWindow* box, VornControlGroup* group)> fill);
+  void SetOpen(bool open);
+  bool IsOpen() const { return m_bOpen; }
+  // Resizes the box; the tree lays itself out again when it is open.
+  void SetBoxSize(int w, int h);
+  int GetOffset() const;
+
+  int GetMaxHeight() override;  // the open box's height + 16, else 32
+  void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
+
+ protected:
+  int EditorWidth() override;
+  void PlaceParts();
+  void FitToBox();
+
+  int m_boxWidth, m_boxHeight;
+  bool m_bOpen;
+  std::function<void(wxWindow*, VornControlGroup*)> m_fill;  // waiting for Create
+  const VornwxBitmapCache* m_pToggleImages = nullptr;        // the manager's
+  VornControlGroupValue m_boxGroup;                          // the host's controls and this one
+  wxWindow* m_pBox = nullptr;                                // a child window
+  VornTreePopToggleButton* m_pToggle = nullptr;              // a child window
+};
+
+// A small marker leaf (19 x 12, aligned at 9): a blob in the tree's line
+// colour, drawn from an image made for the control's colours.
+class VornBlobbyControl : public VornVUIControl {
+ public:
+  static constexpr int kWidth = 19;
+  static constexpr int kHeight = 12;
+  static constexpr int kAlignment = 9;
+
+  VornBlobbyControl();
+  ~VornBlobbyControl() override;
+
+  int GetAllignmentPt() override { return kAlignment; }
+  int GetMaxWidth() override { return kWidth; }
+  int GetMaxHeight() override { return kHeight; }
+  void OnDraw(wxDC* dc) override;
+
+  // The blob: an anti-aliased disc of colour blob on background.
+  static wxBitmap MakeBlobImage(const Color& background, const Color& blob);
+
+ private:
+  wxBitmap m_blob;         // made for the colours below
+  Color m_blobBackground;  // the colours m_blob was made for
+  Color m_blobColour;
 };

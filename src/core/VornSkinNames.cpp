@@ -51,6 +51,16 @@ const std::vector<VornSkinName>& VornToolkitSkinNames() {
       {N::kColour, "gradient_range_track", "gradient editor"},
       {N::kColour, "gradient_range_window", "gradient editor"},
       {N::kColour, "gradient_range_handle", "gradient editor"},
+      // The tree's button, table and pop-up editors.
+      {N::kAsset, "vui_tree_prim_colour.sts", "parameter tree"},
+      {N::kAsset, "vui_tree_prim_texture.sts", "parameter tree"},
+      {N::kAsset, "vui_tree_prim_function.sts", "parameter tree"},
+      {N::kAsset, "vui_tree_prim_curve.sts", "parameter tree"},
+      {N::kAsset, "vui_tree_prim_gradient.sts", "parameter tree"},
+      {N::kAsset, "vui_tree_prim_material.sts", "parameter tree"},
+      {N::kAsset, "vui_tree_montoggle.sts", "parameter tree"},
+      {N::kAsset, "vui_tree_poptoggle.sts", "parameter tree"},
+      {N::kColour, "vuiedit_tree_popbox", "parameter tree"},
   };
   return names;
 }

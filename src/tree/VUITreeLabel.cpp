@@ -4,6 +4,9 @@
 #include <wx/dcmemory.h>
 #include <wx/image.h>
 
+#include <algorithm>
+
+#include "TreeDrawing.h"
 #include "vorn/GraphicsFunctions.h"
 #include "vorn/VUIControls.h"
 #include "vornhost/Filter.h"
@@ -18,6 +21,12 @@ constexpr int kCircleX = 7;
 constexpr int kCircleRadius = 2;
 constexpr int kNameX = 12;
 constexpr int kLeaderGap = 2;
+
+// A taller control keeps its name in its top row, where the tree's
+// connector meets it.
+int LabelMid(int h) {
+  return std::min(h, vorn_tree::kHeaderRowHeight) / 2;
+}
 
 wxString FromUtf8(const VornString& text) {
   return wxString::FromUTF8(text.c_str());
@@ -66,7 +75,7 @@ void VUITreeControlBase::BuildLabel() {
   {
     std::unique_ptr<Filter> f = CreateFilter(image);
     const ColorA line = CtoCA(GetLineCol());
-    const int mid = h / 2;
+    const int mid = LabelMid(h);
     DrawLine(*f, 0, mid, kStubEnd, mid, line);
     DrawCircle(AntiAlias(*f), kCircleX, mid, kCircleRadius, line, false);
     const int leader = kNameX + m_nameWidth + kLeaderGap;
@@ -87,7 +96,7 @@ void VUITreeControlBase::BuildLabel() {
   }
   wxCoord tw = 0, th = 0;
   dc.GetTextExtent("Ag", &tw, &th);
-  dc.DrawText(FromUtf8(shown), kNameX + m_nameWidth - width, (h - th) / 2);
+  dc.DrawText(FromUtf8(shown), kNameX + m_nameWidth - width, (2 * LabelMid(h) - th) / 2);
   dc.SelectObject(wxNullBitmap);
   m_labelX = x;
   m_labelName = m_name;

@@ -56,3 +56,17 @@ constexpr const char* kWidgetLine = "Widget: ";
 constexpr const char* kNoHeaderWindow = "this->m_Controlptr->GetHandle() != __null";
 
 }  // namespace VUITreeTexts
+
+// The button, table and pop-up editors' image sets (state sets of the skin).
+namespace VUITreeTexts {
+constexpr const char* kColourButton = "vui_tree_prim_colour.sts";
+constexpr const char* kTextureButton = "vui_tree_prim_texture.sts";
+constexpr const char* kFunctionButton = "vui_tree_prim_function.sts";
+constexpr const char* kCurveButton = "vui_tree_prim_curve.sts";
+constexpr const char* kGradientButton = "vui_tree_prim_gradient.sts";
+constexpr const char* kMaterialButton = "vui_tree_prim_material.sts";
+constexpr const char* kTableToggle = "vui_tree_montoggle.sts";
+constexpr const char* kPopToggle = "vui_tree_poptoggle.sts";
+// Optional: the fill of an open pop-up box (the tree's background without it).
+constexpr const char* kPopBoxColour = "vuiedit_tree_popbox";
+}  // namespace VUITreeTexts
