@@ -1,12 +1,27 @@
 // Drawing helpers of the tree's controls.
 #include "TreeDrawing.h"
 
+#include <wx/bitmap.h>
 #include <wx/brush.h>
+#include <wx/dcmemory.h>
 #include <wx/pen.h>
 
 #include "vorn/GraphicsFunctions.h"
 
 namespace vorn_tree {
+
+wxSize MeasureText(const wxString& text, const wxFont& font) {
+  // One DC for every measurement: making a DC costs more than measuring, and
+  // a tree measures every name. Never freed, so it outlives no toolkit.
+  static wxMemoryDC* dc = [] {
+    static wxBitmap scratch(1, 1);
+    return new wxMemoryDC(scratch);
+  }();
+  dc->SetFont(font.IsOk() ? font : *wxNORMAL_FONT);
+  wxCoord w = 0, h = 0;
+  dc->GetTextExtent(text, &w, &h);
+  return wxSize(w, h);
+}
 
 BranchHeaderGeometry ComputeBranchHeader(int alignment, int nameWidth, int nameHeight, int width) {
   BranchHeaderGeometry g;
