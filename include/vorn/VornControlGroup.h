@@ -1,6 +1,7 @@
 #pragma once
 // Control groups: the registry and dispatcher every control reports to, and
 // the base of every hint.
+#include <deque>
 #include <vector>
 
 #include "vornhost/Types.h"
@@ -99,14 +100,15 @@ class VornControlGroup {
   bool DeRegisterById(unsigned int id, bool keep);
   bool InsertControl(unsigned int id, VornControl* control, VornString name, bool own);
   bool InsertVirtual(unsigned int id, VirtualControl* control, bool own);
-  bool EraseControlEntry(std::vector<VornControlEntry>::iterator it, bool keep);
-  bool EraseVirtualEntry(std::vector<VirtualControlEntry>::iterator it, bool keep);
+  bool EraseControlEntry(std::deque<VornControlEntry>::iterator it, bool keep);
+  bool EraseVirtualEntry(std::deque<VirtualControlEntry>::iterator it, bool keep);
 
   VornControlGroup* m_pControlGroup = nullptr;  // parent; not owned
-  // The two by-id maps: entries kept sorted by ascending id (flat, so that a
-  // dispatch walks contiguous memory).
-  std::vector<VornControlEntry> m_controlsById;
-  std::vector<VirtualControlEntry> m_virtualControlsById;
+  // The two by-id maps: entries kept sorted by ascending id. A deque, so that
+  // wx's automatic ids (each below the last) and explicit rising ids both
+  // join at an end.
+  std::deque<VornControlEntry> m_controlsById;
+  std::deque<VirtualControlEntry> m_virtualControlsById;
   std::vector<VornControl*> m_controls;
   std::vector<VirtualControl*> m_virtualControls;
   std::vector<VornControlGroup*> m_groups;    // not owned

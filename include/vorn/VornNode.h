@@ -78,6 +78,9 @@ class VornNode {
   // Repaints a placed window, unless it is a child of the root lying wholly
   // outside the view (it is painted when scrolled in).
   static void RepaintWindow(VornNode* parent, VornControl* control);
+  // Whether rows y1..y2 of a child of parent (in parent's layout) are in or
+  // near the view: always for a level below the root.
+  static bool InView(VornNode* parent, int y1, int y2);
 
   int m_nodeID = -1;              // -1 until registered
   VornNode* m_pParent = nullptr;  // not owned
@@ -227,6 +230,9 @@ class VornBranchNode : public VornLeafNode {
 
   // --- operations
   VornTreeNode* GetTree() const { return m_pTree.get(); }
+  // Whether the header has its window (it is made when first placed in
+  // view).
+  bool HasWindow() const;
   void Expand();
   void Collapse();
   void Toggle();
@@ -242,6 +248,10 @@ class VornBranchNode : public VornLeafNode {
   // The state changes behind Expand and Collapse.
   void Exp();
   void Col();
+  // Makes the header's window under the parent's control; false when the
+  // parent has none.
+  bool CreateWindow();
+  bool ParentHasWindow() const;
 
   bool m_bExpanded = false;
   std::unique_ptr<VornVUIBranchControl> m_pControl;
@@ -283,6 +293,9 @@ class VornTreeRootNode : public VornTreeNode {
   VornVUITreeRootControl* GetRootControl() const { return m_pRootControl.get(); }
 
   // --- the registry
+  // Gives windows to the top-level rows that scrolled into view without one.
+  void CreateWindowsInView();
+
   // Asserts the node is not registered yet; gives it the next id.
   void Register(VornNode* node);
   // Forgets the node (nodes call this as they are deleted).

@@ -16,20 +16,20 @@
 namespace {
 
 template <class Entry>
-typename std::vector<Entry>::iterator LowerBound(std::vector<Entry>& map, unsigned int id) {
+typename std::deque<Entry>::iterator LowerBound(std::deque<Entry>& map, unsigned int id) {
   return std::lower_bound(map.begin(), map.end(), id,
                           [](const Entry& e, unsigned int key) { return e.id < key; });
 }
 
 template <class Entry>
-typename std::vector<Entry>::iterator FindId(std::vector<Entry>& map, unsigned int id) {
+typename std::deque<Entry>::iterator FindId(std::deque<Entry>& map, unsigned int id) {
   auto it = LowerBound(map, id);
   return it != map.end() && it->id == id ? it : map.end();
 }
 
 // Inserts in id order; false when the id is taken.
 template <class Entry>
-bool InsertSorted(std::vector<Entry>& map, Entry entry) {
+bool InsertSorted(std::deque<Entry>& map, Entry entry) {
   auto it = LowerBound(map, entry.id);
   if (it != map.end() && it->id == entry.id) return false;
   map.insert(it, std::move(entry));
@@ -41,7 +41,7 @@ bool InsertSorted(std::vector<Entry>& map, Entry entry) {
 // visited instead of trusting the position. f must read what it needs from
 // the entry before calling out.
 template <class Entry, class F>
-void WalkById(std::vector<Entry>& map, const unsigned int& generation, F f) {
+void WalkById(std::deque<Entry>& map, const unsigned int& generation, F f) {
   for (std::size_t i = 0; i < map.size();) {
     const unsigned int id = map[i].id;
     const unsigned int before = generation;
@@ -113,7 +113,7 @@ std::string Address(const void* p) {
 }
 
 template <class Entry>
-void DumpEntries(const char* heading, const std::vector<Entry>& map) {
+void DumpEntries(const char* heading, const std::deque<Entry>& map) {
   dprintf(heading, static_cast<int>(map.size()));
   for (const Entry& entry : map) {
     const std::string line = "  ID = " + std::to_string(entry.id) +
@@ -270,7 +270,7 @@ bool VornControlGroup::RegisterOwner(unsigned int id, VirtualControl* control) {
   return InsertVirtual(id, control, true);
 }
 
-bool VornControlGroup::EraseControlEntry(std::vector<VornControlEntry>::iterator it, bool keep) {
+bool VornControlGroup::EraseControlEntry(std::deque<VornControlEntry>::iterator it, bool keep) {
   const VornControlEntry entry = *it;
   m_controlsById.erase(it);
   ++m_generation;
@@ -281,7 +281,7 @@ bool VornControlGroup::EraseControlEntry(std::vector<VornControlEntry>::iterator
   return true;
 }
 
-bool VornControlGroup::EraseVirtualEntry(std::vector<VirtualControlEntry>::iterator it, bool keep) {
+bool VornControlGroup::EraseVirtualEntry(std::deque<VirtualControlEntry>::iterator it, bool keep) {
   const VirtualControlEntry entry = *it;
   m_virtualControlsById.erase(it);
   ++m_generation;

@@ -1,12 +1,49 @@
 // Drawing helpers of the tree's controls.
 #include "TreeDrawing.h"
 
+#include <wx/bitmap.h>
 #include <wx/brush.h>
+#include <wx/dcmemory.h>
 #include <wx/pen.h>
+
+#include <algorithm>
+#include <map>
+#include <vector>
 
 #include "vorn/GraphicsFunctions.h"
 
 namespace vorn_tree {
+
+wxSize MeasureText(const wxString& text, const wxFont& font) {
+  // A tree measures every name, and names repeat from branch to branch:
+  // extents are kept per font and text. A font is known by its shared data,
+  // which the kept copy holds alive (a changed font gets new data).
+  struct Key {
+    const wxObjectRefData* font;
+    wxString text;
+    bool operator<(const Key& o) const { return font != o.font ? font < o.font : text < o.text; }
+  };
+  // Never freed, like the DC below, so that none outlives the toolkit.
+  static auto& extents = *new std::map<Key, wxSize>;
+  static auto& fonts = *new std::vector<wxFont>;
+  constexpr size_t kMaxKept = 4096;
+  const wxFont& used = font.IsOk() ? font : *wxNORMAL_FONT;
+  const Key key{used.GetRefData(), text};
+  if (auto it = extents.find(key); it != extents.end()) return it->second;
+  if (extents.size() >= kMaxKept) {
+    extents.clear();
+    fonts.clear();
+  }
+  // One DC for every measurement: making one costs more than measuring.
+  static wxMemoryDC* dc = new wxMemoryDC(*new wxBitmap(1, 1));
+  dc->SetFont(used);
+  wxCoord w = 0, h = 0;
+  dc->GetTextExtent(text, &w, &h);
+  if (std::none_of(fonts.begin(), fonts.end(),
+                   [&](const wxFont& f) { return f.GetRefData() == key.font; }))
+    fonts.push_back(used);
+  return extents[key] = wxSize(w, h);
+}
 
 BranchHeaderGeometry ComputeBranchHeader(int alignment, int nameWidth, int nameHeight, int width) {
   BranchHeaderGeometry g;

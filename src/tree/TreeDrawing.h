@@ -3,6 +3,7 @@
 // layout (used by hit-testing, the toggle button's place and drawing) and
 // the connector lines.
 #include <wx/dc.h>
+#include <wx/font.h>
 #include <wx/gdicmn.h>
 
 #include <vector>
@@ -24,6 +25,10 @@ constexpr int kHeaderRowHeight = 36;
 constexpr int kToggleSize = 14;
 
 BranchHeaderGeometry ComputeBranchHeader(int alignment, int nameWidth, int nameHeight, int width);
+
+// The extent of text in font, measured without a window (controls measure
+// their names before they have one).
+wxSize MeasureText(const wxString& text, const wxFont& font);
 
 // Fills rect with a colour.
 void FillRect(wxDC& dc, const wxRect& rect, const Color& colour);

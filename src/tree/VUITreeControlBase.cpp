@@ -1,8 +1,7 @@
 // The tree editors' common part: skin fonts and colours, metrics, the
 // function button and the translation of inner change hints into node hints.
 // The name label is drawn in VUITreeLabel.cpp.
-#include <wx/dcmemory.h>
-
+#include "TreeDrawing.h"
 #include "VUITreeTexts.h"
 #include "vorn/GraphicsFunctions.h"
 #include "vorn/VUIControls.h"
@@ -86,13 +85,7 @@ int VUITreeControlBase::GetMaxHeight() {
 }
 
 void VUITreeControlBase::SetNameTextSizes() {
-  // Measured on a bitmap of our own: the control may have no window yet.
-  wxBitmap scratch = m_label.IsOk() ? m_label : wxBitmap(1000, 200);
-  wxMemoryDC dc(scratch);
-  dc.SetFont(m_nameFont);
-  wxCoord w = 0, h = 0;
-  dc.GetTextExtent(wxString::FromUTF8(m_name.c_str()), &w, &h);
-  m_nameWidth = w;
+  m_nameWidth = vorn_tree::MeasureText(wxString::FromUTF8(m_name.c_str()), m_nameFont).x;
 }
 
 void VUITreeControlBase::SetParamName(const VornString& name) {

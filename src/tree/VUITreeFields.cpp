@@ -43,13 +43,14 @@ VUITreeFields::VUITreeFields(AssetManager* assetman, int fieldWidth) : m_fieldWi
   const bool val = assetman->LoadEditWidgetCached(VUITreeTexts::kValueBox, picture, m_info);
   VORN_ASSERT_TEXT(val == true, VUITreeTexts::kLoadFailed);
   if (!picture) return;
-  m_picture = Stretched(*picture, fieldWidth);
+  m_source = *picture;
   // The text area keeps its margins.
   m_info.width += fieldWidth - picture->GetWidth();
 }
 
 void VUITreeFields::Show(int n, VornControl* owner, int style, bool editable, int x,
                          int rowHeight) {
+  if (!m_picture.IsOk() && m_source.IsOk()) m_picture = Stretched(m_source, m_fieldWidth);
   const int h = m_picture.IsOk() ? m_picture.GetHeight() : m_info.height;
   while (static_cast<int>(m_fields.size()) < n) {
     m_groups.push_back(std::make_unique<VornControlGroupValue>());

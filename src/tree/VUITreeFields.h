@@ -47,7 +47,10 @@ class VUITreeFields {
   void Put(int index, const VornString& text);
   VornString Text(int index) const;
 
-  wxBitmap m_picture;  // the value box at the field width
+  // The skin's value box, stretched to the field width when the first field
+  // is made (a tree builds many leaves that are never shown).
+  wxBitmap m_source;
+  wxBitmap m_picture;
   VornEditInfo m_info;
   int m_fieldWidth;
   int m_shown = 0;

@@ -23,9 +23,28 @@ VornBranchNode::VornBranchNode(VornTreeNode* parent, VornString name) {
     if (VornMainVUITreeControl* tree = root->GetTreeControl())
       m_pControl->SetMouseOverCol(tree->GetMouseOverCol());
   }
-  VornVUIControl* parentControl = parent->GetVornVUIControl();
-  if (parentControl && parentControl->GetHandle())
-    m_pControl->Create(parentControl, wxID_ANY, nullptr);
+  // The id is taken now so that the node can be found by it before its
+  // header has a window.
+  m_pControl->SetId(wxWindow::NewControlId());
+  // A header is made at once only while the tree still ends inside the view
+  // (where this branch will show when appended); else when first placed in
+  // view, so that a long tree costs windows only for what is seen.
+  if (parent->IsVisible() && InView(parent, parent->GetHeight(), parent->GetHeight() + GetHeight()))
+    CreateWindow();
+}
+
+bool VornBranchNode::HasWindow() const {
+  return m_pControl && m_pControl->GetHandle();
+}
+
+bool VornBranchNode::ParentHasWindow() const {
+  VornVUIControl* parentControl = m_pParent ? m_pParent->GetVornVUIControl() : nullptr;
+  return parentControl && parentControl->GetHandle();
+}
+
+bool VornBranchNode::CreateWindow() {
+  if (!m_pControl || !ParentHasWindow()) return false;
+  return m_pControl->Create(m_pParent->GetVornVUIControl(), m_pControl->GetId(), nullptr);
 }
 
 VornBranchNode::~VornBranchNode() {
@@ -51,7 +70,9 @@ int VornBranchNode::GetAllignmentPoint() {
 }
 
 void VornBranchNode::SetDisplay(int x1, int y1, int x2, int y2) {
-  VORN_ASSERT_TEXT(m_pControl && m_pControl->GetHandle() != nullptr, kWindowExists);
+  // The header may have no window yet (it is made when placed in view), but
+  // it must be able to get one.
+  VORN_ASSERT_TEXT(m_pControl && (m_pControl->GetHandle() || ParentHasWindow()), kWindowExists);
   VORN_ASSERT_TEXT((x2 - x1) == this->GetWidth(), kBranchWidth);
   VORN_ASSERT_TEXT((y2 - y1) == this->GetHeight(), kBranchHeight);
   m_x1 = x1;
@@ -90,8 +111,12 @@ VornVUIControl* VornBranchNode::GetVornVUIControl() {
 }
 
 void VornBranchNode::Refresh() {
-  VORN_ASSERT_TEXT(m_pControl && m_pControl->GetHandle() != nullptr, kWindowExists);
-  if (!m_pControl || !m_pControl->GetHandle()) return;
+  VORN_ASSERT_TEXT(m_pControl && (m_pControl->GetHandle() || ParentHasWindow()), kWindowExists);
+  if (!m_pControl) return;
+  if (!m_pControl->GetHandle()) {
+    // Out of view, or under a parent without a window: stays a node.
+    if (!IsVisible() || !InView(m_pParent, m_y1, m_y2) || !CreateWindow()) return;
+  }
   if (!IsVisible()) {
     // Its sub-tree is hidden with it and placed when shown again.
     if (m_pControl->IsShown()) m_pControl->Show(false);

@@ -113,6 +113,7 @@ void VornMainVUITreeControl::Update() {
     const int old = m_scrollPos;
     m_scrollPos = pos;
     view->ScrollWindow(0, -(pos - old));
+    m_pRoot->CreateWindowsInView();
   }
 }
 

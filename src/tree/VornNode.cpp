@@ -42,6 +42,19 @@ void VornNode::RepaintWindow(VornNode* parent, VornControl* control) {
   control->wxWindow::Refresh(false);
 }
 
+bool VornNode::InView(VornNode* parent, int y1, int y2) {
+  VornTreeRootNode* root = parent ? parent->GetRoot() : nullptr;
+  if (!root || root != parent || !root->GetTreeControl()) return true;
+  VornControl* view = root->GetVornVUIControl();
+  if (!view || !view->GetHandle()) return true;
+  // A row's worth of slack each side, so that a small scroll finds its
+  // neighbours ready.
+  constexpr int kSlack = 36;
+  const int top = root->GetTreeControl()->GetScrollPos() - kSlack;
+  const int bottom = root->GetTreeControl()->GetScrollPos() + view->wxWindow::GetClientSize().y + kSlack;
+  return y2 > top && y1 < bottom;
+}
+
 VornLeafNode::~VornLeafNode() = default;
 
 void VornLeafNode::SetPosition(POSITION position) {

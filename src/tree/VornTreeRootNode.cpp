@@ -136,3 +136,14 @@ void VornTreeRootNode::Refresh() {
   if (m_pTreeControl) m_pTreeControl->Update();
   m_pRootControl->Show(wasShown);
 }
+
+void VornTreeRootNode::CreateWindowsInView() {
+  if (!IsVisible()) return;
+  int top = 0;
+  for (VornLeafNode* child : m_children) {
+    const int bottom = top + child->GetHeight();
+    auto* branch = dynamic_cast<VornBranchNode*>(child);
+    if (branch && !branch->HasWindow() && InView(this, top, bottom)) branch->Refresh();
+    top = bottom;
+  }
+}

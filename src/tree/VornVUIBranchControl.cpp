@@ -1,7 +1,5 @@
 // The header of a branch: toggle button and name, with the sub-tree's
 // windows below it.
-#include <wx/dcmemory.h>
-
 #include <algorithm>
 
 #include "TreeDrawing.h"
@@ -48,13 +46,7 @@ bool VornVUIBranchControl::Create(wxWindow* parent, int id, VornControlGroup* gr
 // ---- metrics ----------------------------------------------------------------------
 
 void VornVUIBranchControl::SetNameTextSizes() {
-  wxBitmap scratch(1000, 200);
-  wxMemoryDC dc(scratch);
-  dc.SetFont(m_nameFont.IsOk() ? m_nameFont : *wxNORMAL_FONT);
-  wxCoord w = 0;
-  wxCoord h = 0;
-  dc.GetTextExtent(wxString::FromUTF8(m_name.c_str()), &w, &h);
-  m_nameWidth = w;
+  m_nameWidth = MeasureText(wxString::FromUTF8(m_name.c_str()), m_nameFont).x;
 }
 
 int VornVUIBranchControl::GetNameWidth() {

@@ -21,12 +21,11 @@ VornVUIControlNode::VornVUIControlNode(VornVUIControl* control, VornTreeNode* pa
   }
   SetParent(parent);
   if (!control->GetHandle()) {
-    // A hidden level's leaves are nodes only until first shown; the id is
-    // taken now so that the node can be found by it.
-    if (parent->IsVisible())
-      CreateWindow();
-    else if (control->GetId() == wxID_ANY)
-      control->SetId(wxWindow::NewControlId());
+    // A hidden level's leaves (or those of a header not made yet) are nodes
+    // only until first shown; the id is taken now so that the node can be
+    // found by it.
+    const bool created = parent->IsVisible() && CreateWindow();
+    if (!created && control->GetId() == wxID_ANY) control->SetId(wxWindow::NewControlId());
   }
   SetVisible(parent->IsVisible());
   if (root) root->Register(this);

@@ -45,21 +45,28 @@ void VornVUITreeRootControl::OnDraw(wxDC* dc) {
   FillRect(*dc, wxRect(0, 0, w, h), m_backgroundCol);
   // Rows are in tree coordinates; the window shows them scrolled.
   const int scroll = FindTreeControl() ? FindTreeControl()->GetScrollPos() : 0;
+  // Rows come from the layout, not the windows: a row out of view may have
+  // none. Only the rows in view get ticks; the stem runs from the first row
+  // to the last wherever they are.
   std::vector<ConnectorRow> rows;
   int stemX = w;
-  for (int i = 0; i < m_pRoot->GetSize(); ++i) {
+  int stemTop = 0;
+  const int n = m_pRoot->GetSize();
+  for (int i = 0; i < n; ++i) {
     VornLeafNode* child = m_pRoot->GetAtPos(i);
-    VornVUIControl* control = child->GetVornVUIControl();
-    if (!control || !control->GetHandle()) continue;
     int x1 = 0, y1 = 0, x2 = 0, y2 = 0;
     if (auto* leaf = dynamic_cast<VornVUIControlNode*>(child))
       leaf->GetDisplay(x1, y1, x2, y2);
     else if (auto* branch = dynamic_cast<VornBranchNode*>(child))
       branch->GetDisplay(x1, y1, x2, y2);
+    else
+      continue;
+    const ConnectorRow row{x1, y1 - scroll, y1 - scroll + std::min(y2 - y1, kHeaderRowHeight)};
     stemX = std::min(stemX, x1 - 8);
-    rows.push_back({x1, y1 - scroll, y1 - scroll + std::min(y2 - y1, kHeaderRowHeight)});
+    if (i == 0) stemTop = row.top + kHeaderRowHeight / 2;
+    if ((row.bottom >= 0 && row.top < h) || i == n - 1) rows.push_back(row);
   }
   if (rows.empty()) return;
   stemX = std::max(stemX, 2);
-  DrawConnectors(*dc, stemX, rows.front().top + kHeaderRowHeight / 2, rows, m_lineCol);
+  DrawConnectors(*dc, stemX, stemTop, rows, m_lineCol);
 }

@@ -169,3 +169,37 @@ TEST(TreeControl, BranchHeaderDrawsConnectorsNameAndRowHighlight) {
   Do(second->GetVornVUIControl(), "leave");
   EXPECT_EQ(f.tree->GetHighlightedRow(), nullptr);
 }
+
+TEST(TreeControl, ALongTreeMakesHeaderWindowsOnlyAsTheyComeIntoView) {
+  TreeFixture f(300, 200);
+  std::vector<VornBranchNode*> branches;
+  for (int i = 0; i < 30; ++i) branches.push_back(TreeFixture::AddBranch(f.Root()));
+  f.tree->RefreshTree();
+  PumpEvents();
+  // Rows of 36 in a 200 view, with a row of slack below: rows 0..6.
+  for (int i = 0; i < 30; ++i) EXPECT_EQ(branches[i]->HasWindow(), i <= 6) << i;
+  // A header without a window is still a node to find and to lay out.
+  VornBranchNode* last = branches.back();
+  EXPECT_EQ(f.Root()->GetNodeFromVornControlID(last->GetBranchControl()->GetId()), last);
+  EXPECT_EQ(FiredAssertionIn([&] { f.tree->RefreshTree(); }).first, "");
+
+  // The root draws the stem past the view's bottom although the rows there
+  // have no windows.
+  VornVUITreeRootControl* view = f.Root()->GetRootControl();
+  int x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+  branches[0]->GetDisplay(x1, y1, x2, y2);
+  const wxBitmap drawn = Render(view, view->GetWidth(), view->GetHeight());
+  EXPECT_EQ(PixelAt(drawn, std::max(x1 - 8, 2), view->GetHeight() - 2), Skin("vuiedit_tree_fg"));
+
+  // Scrolling to the end makes the last rows' windows where they show.
+  f.tree->GetScrollBar()->SetSliderVal(1.0, true);
+  PumpEvents();
+  ASSERT_TRUE(last->HasWindow());
+  EXPECT_EQ(TreeFixture::WindowPos(last).y, 200 - 36);
+  EXPECT_FALSE(branches[15]->HasWindow());
+  // Expanding a row made late works as for any other.
+  TreeFixture::AddLeaf(last->GetTree(), 10, 40, 30);
+  Click(last->GetBranchControl()->GetToggleButton());
+  EXPECT_TRUE(last->IsExpanded());
+  EXPECT_TRUE(last->GetTree()->GetAtPos(0)->GetVornVUIControl()->GetHandle() != nullptr);
+}
