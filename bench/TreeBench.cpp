@@ -5,7 +5,9 @@
 // Figures: building the whole tree shown and collapsed; expanding one branch
 // and collapsing it again (layout and repaint); one of 100 scroll steps from
 // top to bottom; the heap and live windows after building (counters of the
-// build figures).
+// build figures). Tree/... builds from stand-in leaves, TreeEditors/... from
+// the tree's editors of the grid's four kinds, TreeAllEditors/... from every
+// editor kind of the tree (the grid keeps its four: it has no others).
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 #include <wx/app.h>
@@ -168,11 +170,64 @@ class StandInLeaf : public VornVUIControl {
   std::unique_ptr<VornButtonToggle> m_toggle;
 };
 
-// The tree's own editors (false: the stand-ins above).
-bool g_realEditors = false;
+// Which leaves the tree is built from.
+enum class Leaves {
+  StandIn,  // the stand-ins above
+  Real,     // the tree's slider, check box and text editors, as the grid's four kinds
+  Mixed,    // every editor kind of the tree, twenty kinds over two branches
+};
+Leaves g_leaves = Leaves::StandIn;
 
-VornVUIControl* MakeLeaf(int leaf) {
-  if (!g_realEditors) return new StandInLeaf(KindOf(leaf), LeafName(leaf));
+VornVUIControl* MakeMixedLeaf(int branch, int leaf) {
+  AssetManager* am = &Skin();
+  const VornString name = LeafName(leaf);
+  switch ((branch % 2) * kLeaves + leaf) {
+    case 0:
+      return new VUITreeSlider(am, name, false, 0.0, 1.0, 0.5);
+    case 1:
+      return new VUITreeCheckBox(am, name, false, true);
+    case 2:
+      return new VUITreeTextEdits(am, name, false, VUITreeTextEdits::PT_INT);
+    case 3:
+      return new VUITreeTextEdits(am, name, false, VUITreeTextEdits::PT_STRING);
+    case 4:
+      return new VUITreeTextEdits(am, name, false, VUITreeTextEdits::PT_VEC3D);
+    case 5:
+      return new VUITreeTextEdits(am, name, false, VUITreeTextEdits::PT_COLOR);
+    case 6:
+      return new VUITreeThumbWheel(am, name, false, 0.0, 10.0, 5.0, 0.1);
+    case 7:
+      return new VUITreeExpandTextEdits(am, name, false);
+    case 8:
+      return new VUITreeAngleSelect(am, name, false, 45.0);
+    case 9:
+      return new VUITreeAngleClippers(am, name, false, 0.4);
+    case 10:
+      return new VUITreeEnumLB(am, name, false, "Nearest | Linear | Cubic");
+    case 11:
+      return new VUITreeLB(am, name, false);
+    case 12:
+      return new VUITreeColorButton(am, name, false, Color(0.2, 0.7, 0.8));
+    case 13:
+      return new VUITreeGradientButton(am, name, false);
+    case 14:
+      return new VUITreeTextureButton(am, name, true);
+    case 15:
+      return new VUITreeFunctionButton(am, name, false);
+    case 16:
+      return new VUITreeCurveButton(am, name, false);
+    case 17:
+      return new VUITreeMaterialButton(am, name, false);
+    case 18:
+      return new VUITreeMonsterBox(am, name, false, 200, 100);
+    default:
+      return new VUITreePopControl(am, name, false, 200, 36);
+  }
+}
+
+VornVUIControl* MakeLeaf(int branch, int leaf) {
+  if (g_leaves == Leaves::Mixed) return MakeMixedLeaf(branch, leaf);
+  if (g_leaves == Leaves::StandIn) return new StandInLeaf(KindOf(leaf), LeafName(leaf));
   const VornString name = LeafName(leaf);
   switch (KindOf(leaf)) {
     case Kind::Slider:
@@ -203,7 +258,8 @@ class TreeSetup {
       auto* branch = new VornBranchNode(root, "Group " + std::to_string(b));
       root->AddToEnd(branch);
       for (int l = 0; l < kLeaves; ++l)
-        branch->GetTree()->AddToEnd(new VornVUIControlNode(MakeLeaf(l), branch->GetTree(), true));
+        branch->GetTree()->AddToEnd(
+            new VornVUIControlNode(MakeLeaf(b, l), branch->GetTree(), true));
     }
     tree->RefreshTree();
     Paint(frame);
@@ -309,10 +365,10 @@ void MemoryCounters(benchmark::State& state, Setup& s) {
 
 // ---- figures -------------------------------------------------------------------------
 
-template <class Setup, bool kReal = false>
+template <class Setup, Leaves kLeaves = Leaves::StandIn>
 void BM_Build(benchmark::State& state) {
   if (!HaveDisplay(state)) return;
-  g_realEditors = kReal;
+  g_leaves = kLeaves;
   // One build beforehand, so that neither contender pays the process's
   // first-time costs (theme loading, fresh heap pages) for the other.
   std::make_unique<Setup>().reset();
@@ -327,10 +383,10 @@ void BM_Build(benchmark::State& state) {
   }
 }
 
-template <bool kReal>
+template <Leaves kLeaves>
 void BM_TreeExpand(benchmark::State& state) {
   if (!HaveDisplay(state)) return;
-  g_realEditors = kReal;
+  g_leaves = kLeaves;
   TreeSetup s;
   s.ScrollTo(0.5);
   VornBranchNode* branch = s.Branch(kBranches / 2);
@@ -342,10 +398,10 @@ void BM_TreeExpand(benchmark::State& state) {
   }
 }
 
-template <bool kReal>
+template <Leaves kLeaves>
 void BM_TreeCollapse(benchmark::State& state) {
   if (!HaveDisplay(state)) return;
-  g_realEditors = kReal;
+  g_leaves = kLeaves;
   TreeSetup s;
   s.ScrollTo(0.5);
   VornBranchNode* branch = s.Branch(kBranches / 2);
@@ -389,10 +445,10 @@ void BM_GridCollapse(benchmark::State& state) {
 
 // One step of 100 from top to bottom; the tree (or grid) collapsed, or with
 // every branch open.
-template <class Setup, bool kOpen, bool kReal = false>
+template <class Setup, bool kOpen, Leaves kLeaves = Leaves::StandIn>
 void BM_ScrollStep(benchmark::State& state) {
   if (!HaveDisplay(state)) return;
-  g_realEditors = kReal;
+  g_leaves = kLeaves;
   Setup s;
   if (kOpen) {
     if constexpr (std::is_same_v<Setup, TreeSetup>)
@@ -415,8 +471,8 @@ void BM_ScrollStep(benchmark::State& state) {
 
 }  // namespace
 
-// Tree/...: stand-in leaves; TreeEditors/...: the tree's editors. Each is
-// paired with the property grid measured again under its own name.
+// Each leaf kind's figures are paired with the property grid measured again
+// under its own name.
 #define TREE_FIGURES(prefix, real)                 \
   BENCHMARK(BM_Build<TreeSetup, real>)             \
       ->Name(prefix "/Build")                      \
@@ -460,5 +516,6 @@ void BM_ScrollStep(benchmark::State& state) {
       ->Unit(benchmark::kMillisecond)              \
       ->Iterations(100)
 
-TREE_FIGURES("Tree", false);
-TREE_FIGURES("TreeEditors", true);
+TREE_FIGURES("Tree", Leaves::StandIn);
+TREE_FIGURES("TreeEditors", Leaves::Real);
+TREE_FIGURES("TreeAllEditors", Leaves::Mixed);

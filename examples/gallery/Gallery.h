@@ -68,6 +68,8 @@ class GalleryPage : public VornPanel {
   virtual bool OpenPopUpForShot() { return false; }
   // The same for a third screenshot with a menu open.
   virtual bool OpenMenuForShot() { return false; }
+  // The same for a page with more to show than one open picture holds.
+  virtual bool OpenMoreForShot() { return false; }
   virtual void RenderPopUps(wxDC&, const wxPoint&) {}
   virtual void ClosePopUps() {}
 

@@ -457,6 +457,12 @@ class GalleryApp : public wxApp {
                  wxString::Format("%s/%02zu-%s-menu.png", m_shotDir, i + 1, infos[i].fileName));
         m_frame->GetPage(i)->ClosePopUps();
       }
+      if (m_frame->GetPage(i)->OpenMoreForShot()) {
+        PumpFor(200);
+        SaveShot(Capture(m_frame->GetPage(i)),
+                 wxString::Format("%s/%02zu-%s-more.png", m_shotDir, i + 1, infos[i].fileName));
+        m_frame->GetPage(i)->ClosePopUps();
+      }
     }
     m_frame->Destroy();
   }

@@ -3,6 +3,7 @@
 // colours, sliders, check boxes and function buttons, and a simulation
 // branch of thirty numbers that makes the tree scroll. Every change reaches
 // the log as a node hint with the leaf's node id and name.
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <vector>
@@ -126,17 +127,21 @@ class ParametersPage : public GalleryPage {
   bool OpenPopUpForShot() override {
     for (VornBranchNode* b : {m_pTransform, m_pMaterial, m_pSimulation}) Expand(b, true);
     // Scrolled so that the material branch comes to the top.
-    VornTreeRootNode* root = m_pTree->GetTreeRoot();
-    const int travel = root->GetHeight() - root->GetRootControl()->GetSize().y;
-    int x1, y1, x2, y2;
-    m_pMaterial->GetDisplay(x1, y1, x2, y2);
-    if (VornTreeRootScrollControl* bar = m_pTree->GetScrollBar())
-      if (travel > 0) bar->SetSliderVal(static_cast<double>(y1) / travel, true);
+    ScrollToTop(m_pMaterial);
+    return true;
+  }
+  // The third: the angle, list and linked editors open.
+  bool OpenMoreForShot() override {
+    for (VornBranchNode* b : {m_pLighting, m_pLinked}) Expand(b, true);
+    if (m_pKeys) m_pKeys->SetOpen(true);
+    ScrollToTop(m_pLighting);
     return true;
   }
   void ClosePopUps() override {
     if (VornTreeRootScrollControl* bar = m_pTree->GetScrollBar()) bar->SetSliderVal(0.0, true);
-    for (VornBranchNode* b : {m_pTransform, m_pMaterial, m_pSimulation}) Expand(b, false);
+    if (m_pKeys) m_pKeys->SetOpen(false);
+    for (VornBranchNode* b : {m_pTransform, m_pMaterial, m_pSimulation, m_pLighting, m_pLinked})
+      Expand(b, false);
   }
 
  protected:
@@ -174,6 +179,15 @@ class ParametersPage : public GalleryPage {
     return branch;
   }
   VornString Name(const char* key) const { return Utf8(m_ctx.Msg(key)); }
+
+  void ScrollToTop(VornBranchNode* branch) {
+    VornTreeRootNode* root = m_pTree->GetTreeRoot();
+    const int travel = root->GetHeight() - root->GetRootControl()->GetSize().y;
+    int x1, y1, x2, y2;
+    branch->GetDisplay(x1, y1, x2, y2);
+    if (VornTreeRootScrollControl* bar = m_pTree->GetScrollBar())
+      if (travel > 0) bar->SetSliderVal(std::min(1.0, static_cast<double>(y1) / travel), true);
+  }
 
   void Expand(VornBranchNode* branch, bool open) {
     if (!branch || branch->IsExpanded() == open) return;
@@ -301,7 +315,12 @@ class ParametersPage : public GalleryPage {
     Leaf(l, "Bump map", new VUITreeTextureButton(am, Name("Bump map"), true));
     Leaf(l, "Displacement", new VUITreeFunctionButton(am, Name("Displacement"), true));
     Leaf(l, "Falloff", new VUITreeCurveButton(am, Name("Falloff"), false));
-    Leaf(l, "Colour ramp", new VUITreeGradientButton(am, Name("Colour ramp"), false));
+    // The ramp's button opens the gradient editor on the page's own ramp.
+    m_ramp.AddPoint(0.0, Color(0.05, 0.08, 0.12));
+    m_ramp.AddPoint(0.55, Color(0.13, 0.62, 0.66));
+    m_ramp.AddPoint(1.0, Color(0.95, 0.93, 0.82));
+    Leaf(l, "Colour ramp", new VUITreeGradientButton(am, Name("Colour ramp"), false))
+        ->SetGradient(&m_ramp);
     Leaf(l, "Coating", new VUITreeMaterialButton(am, Name("Coating"), false));
     m_pKeys = Leaf(l, "Keyframes", new VUITreeMonsterBox(am, Name("Keyframes"), false, 300, 140));
     // The leaves' windows are made when the branch first opens: fill then.
@@ -348,6 +367,7 @@ class ParametersPage : public GalleryPage {
   VUITreeAngleClippers* m_pCone = nullptr;
   VUITreeAngleSelect* m_pHeading = nullptr;
   VUITreeEnumLB* m_pFilter = nullptr;
+  Gradient m_ramp;  // edited through the tree's gradient button
   VornBranchNode* m_pLinked = nullptr;
   VUITreeMonsterBox* m_pKeys = nullptr;
   VUITreePopControl* m_pAdvanced = nullptr;

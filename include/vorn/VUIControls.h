@@ -2,6 +2,9 @@
 // The parameter tree's editors: the hints they send to the tree's group and
 // the sub-controls that keep the editors of one parameter in step. Each
 // sub-control shows a sibling's value message without reporting back.
+#include <wx/frame.h>
+#include <wx/weakref.h>
+
 #include <functional>
 #include <memory>
 #include <optional>
@@ -633,89 +636,6 @@ class ErrorControl : public IntVal,
   wxRect GetTextRect();
   int GetTextWidth() const { return m_textWidth; }
 
-// ---- button, table and pop-up editors ---------------------------------------------
-
-// Leaves whose editor is a button that hands the parameter to a bigger editor
-// (a colour dialog, or the host's texture, function, curve, gradient or
-// material editor), a multi-column box or a pop-up box that opens inside the
-// tree, and a small marker.
-
-class VornColourDialog;
-class VornMonsterBox;
-class VUITreeSubPrimBase;
-
-// A sub-primitive button was pressed and the host's editor should open.
-class NodeButtonPushHint : public VornControlHint {
- public:
-  explicit NodeButtonPushHint(int nodeId = -1, int buttonId = 0)
-      : m_nodeId(nodeId), m_buttonId(buttonId) {}
-  ~NodeButtonPushHint() override;
-  int m_nodeId;    // -1 when the control has no node
-  int m_buttonId;  // the id of the button pressed, inside its control
-};
-
-// The sub-primitive button's group: a completed click goes to the owner.
-// (On the release, so that a dialog opened by it does not take the release.)
-class VUITreeSubPrimBaseCG : public VornControlGroup {
- public:
-  explicit VUITreeSubPrimBaseCG(VUITreeSubPrimBase* owner) : m_pOwner(owner) {}
-  using VornControlGroup::ControlUnSelected;
-  void ControlUnSelected(unsigned int id, VornControl* control) override;
-  VUITreeSubPrimBase* GetOwner() const { return m_pOwner; }
-
- private:
-  VUITreeSubPrimBase* m_pOwner;  // not owned: the owner holds this group
-};
-
-// A leaf whose editor is one button drawn from an image set. Without an
-// image set there is no button (the control is then only its name).
-class VUITreeSubPrimBase : public VUITreeControlBase {
- public:
-  static constexpr int kImageSpace = 35;   // right of the alignment line, beside the image
-  static constexpr int kNoImageSpace = 5;  // right of the alignment line without images
-  static constexpr int kButtonId = 1;
-
-  // images: borrowed (usually the manager's cached set), may be null.
-  VUITreeSubPrimBase(AssetManager* assetman, VornString name, bool functionable,
-                     const VornwxBitmapCache* images);
-  ~VUITreeSubPrimBase() override;
-  bool Create(wxWindow* parent, int id, VornControlGroup* group, long style = 0) override;
-  using VUITreeControlBase::Create;
-
-  const VornwxBitmapCache* GetImageCache() const { return m_pImages; }
-  VornPushButton* GetButton() const { return m_pButton; }
-
-  // ---- hooks
-  // A click on the button: by default a NodeButtonPushHint for the host.
-  virtual void OnButtonPush(int buttonId);
-  // Draws over the button's image (the colour button's swatch); nothing by
-  // default. face: the button's rectangle in its own coordinates.
-  virtual void DrawButtonFace(wxDC& dc, const wxRect& face);
-
-  // The skin's image set name, loaded through the manager's cache (an
-  // assertion when it cannot be loaded).
-  static const VornwxBitmapCache* LoadButtonImages(AssetManager* assetman, const char* name);
-
- protected:
-  int EditorWidth() override;
-
-  const VornwxBitmapCache* m_pImages;  // not owned
-  VUITreeSubPrimBaseCG m_buttonGroup{this};
-  VornPushButton* m_pButton = nullptr;  // a child window
-};
-
-// The nine stored values of a control that stands in for a parameter of
-// any type: each SetValue stores, each GetValue returns the value stored.
-class VUITreeStoredValues : public IntVal,
-                            public RealVal,
-                            public Vec2dVal,
-                            public Vec3dVal,
-                            public Vec4dVal,
-                            public QuaternionVal,
-                            public ColorVal,
-                            public ColorAVal,
-                            public VornStringVal {
- public:
   bool GetValue(int32& out) override;
   bool SetValue(int32 value) override;
   bool GetValue(double& out) override;
@@ -823,6 +743,113 @@ class VornVUIMovieBar : public VornMovieBar {
   Color m_background{0.0, 0.0, 0.0};
   Color m_line{1.0, 1.0, 1.0};
   Color m_played{0.0, 0.6, 0.6};
+};
+
+// ---- button, table and pop-up editors ---------------------------------------------
+
+// Leaves whose editor is a button that hands the parameter to a bigger editor
+// (a colour dialog, or the host's texture, function, curve, gradient or
+// material editor), a multi-column box or a pop-up box that opens inside the
+// tree, and a small marker.
+
+class Gradient;
+class GradientControl;
+class VornColourDialog;
+class VornMonsterBox;
+class VUITreeSubPrimBase;
+
+// A sub-primitive button was pressed and the host's editor should open.
+class NodeButtonPushHint : public VornControlHint {
+ public:
+  explicit NodeButtonPushHint(int nodeId = -1, int buttonId = 0)
+      : m_nodeId(nodeId), m_buttonId(buttonId) {}
+  ~NodeButtonPushHint() override;
+  int m_nodeId;    // -1 when the control has no node
+  int m_buttonId;  // the id of the button pressed, inside its control
+};
+
+// The sub-primitive button's group: a completed click goes to the owner.
+// (On the release, so that a dialog opened by it does not take the release.)
+class VUITreeSubPrimBaseCG : public VornControlGroup {
+ public:
+  explicit VUITreeSubPrimBaseCG(VUITreeSubPrimBase* owner) : m_pOwner(owner) {}
+  using VornControlGroup::ControlUnSelected;
+  void ControlUnSelected(unsigned int id, VornControl* control) override;
+  VUITreeSubPrimBase* GetOwner() const { return m_pOwner; }
+
+ private:
+  VUITreeSubPrimBase* m_pOwner;  // not owned: the owner holds this group
+};
+
+// A leaf whose editor is one button drawn from an image set. Without an
+// image set there is no button (the control is then only its name).
+class VUITreeSubPrimBase : public VUITreeControlBase {
+ public:
+  static constexpr int kImageSpace = 35;   // right of the alignment line, beside the image
+  static constexpr int kNoImageSpace = 5;  // right of the alignment line without images
+  static constexpr int kButtonId = 1;
+
+  // images: borrowed (usually the manager's cached set), may be null.
+  VUITreeSubPrimBase(AssetManager* assetman, VornString name, bool functionable,
+                     const VornwxBitmapCache* images);
+  ~VUITreeSubPrimBase() override;
+  bool Create(wxWindow* parent, int id, VornControlGroup* group, long style = 0) override;
+  using VUITreeControlBase::Create;
+
+  const VornwxBitmapCache* GetImageCache() const { return m_pImages; }
+  VornPushButton* GetButton() const { return m_pButton; }
+
+  // ---- hooks
+  // A click on the button: by default a NodeButtonPushHint for the host.
+  virtual void OnButtonPush(int buttonId);
+  // Draws over the button's image (the colour button's swatch); nothing by
+  // default. face: the button's rectangle in its own coordinates.
+  virtual void DrawButtonFace(wxDC& dc, const wxRect& face);
+
+  // The skin's image set name, loaded through the manager's cache (an
+  // assertion when it cannot be loaded).
+  static const VornwxBitmapCache* LoadButtonImages(AssetManager* assetman, const char* name);
+
+ protected:
+  int EditorWidth() override;
+
+  const VornwxBitmapCache* m_pImages;  // not owned
+  VUITreeSubPrimBaseCG m_buttonGroup{this};
+  VornPushButton* m_pButton = nullptr;  // a child window
+};
+
+// The nine stored values of a control that stands in for a parameter of
+// any type: each SetValue stores, each GetValue returns the value stored.
+class VUITreeStoredValues : public IntVal,
+                            public RealVal,
+                            public Vec2dVal,
+                            public Vec3dVal,
+                            public Vec4dVal,
+                            public QuaternionVal,
+                            public ColorVal,
+                            public ColorAVal,
+                            public VornStringVal {
+ public:
+  bool GetValue(int32& out) override;
+  bool SetValue(int32 value) override;
+  bool GetValue(double& out) override;
+  bool SetValue(double value) override;
+  bool GetValue(Vec2d& out) override;
+  bool SetValue(Vec2d value) override;
+  bool GetValue(Vec3d& out) override;
+  bool SetValue(Vec3d value) override;
+  bool GetValue(Vec4d& out) override;
+  bool SetValue(Vec4d value) override;
+  bool GetValue(Quaternion& out) override;
+  bool SetValue(Quaternion value) override;
+  bool GetValue(Color& out) override;
+  bool SetValue(Color value) override;
+  bool GetValue(ColorA& out) override;
+  bool SetValue(ColorA value) override;
+  bool GetValue(VornString& out) override;
+  bool SetValue(VornString value) override;
+
+ protected:
   int32 m_int = 0;
   double m_real = 0.0;
   Vec2d m_vec2{};
@@ -882,10 +909,30 @@ class VUITreeCurveButton : public VUITreeSubPrimBase {
   ~VUITreeCurveButton() override;
 };
 
+// A click opens the gradient editor on the bound gradient in a window of its
+// own (raised when already open); each change made there reaches the tree's
+// group as a NodeChangedHint. Without a gradient a click is a
+// NodeButtonPushHint for the host.
 class VUITreeGradientButton : public VUITreeSubPrimBase {
  public:
   VUITreeGradientButton(AssetManager* assetman, VornString name, bool functionable);
+  // Closes the editor window.
   ~VUITreeGradientButton() override;
+
+  // gradient: not owned; it must outlive the editor window.
+  void SetGradient(Gradient* gradient) { m_pGradient = gradient; }
+  Gradient* GetGradient() const { return m_pGradient; }
+  void OnButtonPush(int buttonId) override;
+  // The editor's window and the editor while open, else null.
+  wxFrame* GetEditorWindow() const { return m_pWindow.get(); }
+  GradientControl* GetEditor() const;
+
+  // Called by the editor window for each change of the gradient.
+  void OnGradientEdited();
+
+ protected:
+  Gradient* m_pGradient = nullptr;  // not owned
+  wxWeakRef<wxFrame> m_pWindow;     // owns the editor and its group
 };
 
 class VUITreeMaterialButton : public VUITreeSubPrimBase {

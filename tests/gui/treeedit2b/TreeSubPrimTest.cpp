@@ -8,6 +8,7 @@
 
 #include "TreeEdit2bSupport.h"
 #include "vorn/ColourPicker.h"
+#include "vorn/GradientControl.h"
 
 namespace {
 
@@ -152,3 +153,38 @@ TEST(TreeSubPrim, AButtonFaceTheSkinCannotSupplyIsAnAssertion) {
 }
 
 }  // namespace
+
+TEST(TreeSubPrim, AGradientButtonWithAGradientOpensTheEditorAndReportsItsChanges) {
+  TreeOnFrame t;
+  Gradient gradient;
+  gradient.AddPoint(0.0, Color(0, 0, 0));
+  const unsigned int middle = gradient.AddPoint(0.5, Color(1, 0, 0));
+  gradient.AddPoint(1.0, Color(1, 1, 1));
+  auto* button = new VUITreeGradientButton(&Skin(), "Ramp", false);
+  button->SetGradient(&gradient);
+  t.Add(t.root, button);
+  t.tree->RefreshTree();
+
+  Click(button->GetButton());
+  wxWeakRef<wxFrame> window = button->GetEditorWindow();
+  ASSERT_TRUE(window && window->IsShown());
+  EXPECT_EQ(t.hints.Take(), "");  // opening is not a change
+  Click(button->GetButton());     // a second click raises the same window
+  EXPECT_EQ(button->GetEditorWindow(), window.get());
+
+  // Delete on the editor removes the selected point: the tree hears a change.
+  GradientControl* editor = button->GetEditor();
+  ASSERT_NE(editor, nullptr);
+  editor->GetColourControl()->SetSelect(middle);
+  wxKeyEvent key(wxEVT_KEY_DOWN);
+  key.m_keyCode = WXK_DELETE;
+  editor->GetEventHandler()->ProcessEvent(key);
+  EXPECT_EQ(gradient.GetNumPoints(), 2);
+  EXPECT_EQ(t.hints.Take(), "changed " + std::to_string(TreeOnFrame::IdOf(button)));
+
+  // The window goes with the button, before the gradient it edits.
+  VornLeafNode* leaf = nullptr;
+  t.root->RemoveFromEnd(leaf);
+  delete leaf;
+  EXPECT_FALSE(window);
+}
