@@ -17,6 +17,12 @@ namespace {
 constexpr int kFrameCorner = 8;
 constexpr int kHeadingCorner = 4;
 constexpr int kAlternateLightness = 110;  // every second row is a little lighter
+
+// A box narrower or lower than its margins keeps a one-pixel panel: GTK
+// refuses negative sizes.
+wxSize PanelSize(int boxWidth, int listHeight) {
+  return wxSize(std::max(1, boxWidth - kPanelWidthLess), std::max(1, listHeight));
+}
 }  // namespace
 
 // clang-format off
@@ -52,8 +58,8 @@ bool VornMonsterBox::Create(const wxBitmap* frame, const wxBitmap* heading, cons
   m_listHeight = h - kListHeightLess;
   m_backBuffer = wxBitmap(std::max(1, w), std::max(1, h));
   m_pPanel =
-      new wxPanel(this, wxID_ANY, wxPoint(kPanelX, kPanelY),
-                  wxSize(w - kPanelWidthLess, m_listHeight), wxTAB_TRAVERSAL | wxBORDER_NONE);
+      new wxPanel(this, wxID_ANY, wxPoint(kPanelX, kPanelY), PanelSize(w, m_listHeight),
+                  wxTAB_TRAVERSAL | wxBORDER_NONE);
   m_pPanel->SetBackgroundColour(m_cellBackground);
   m_pPanel->Bind(wxEVT_MOUSEWHEEL, &VornMonsterBox::OnMouseWheel, this);
   return created;
@@ -313,7 +319,7 @@ void VornMonsterBox::ApplyHeight(int height) {
   VornWindow::SetSize(GetWidth(), height);
   m_backBuffer = wxBitmap(std::max(1, GetWidth()), std::max(1, height));
   m_listHeight = height - kListHeightLess;
-  if (m_pPanel) m_pPanel->SetSize(GetWidth() - kPanelWidthLess, m_listHeight);
+  if (m_pPanel) m_pPanel->SetSize(PanelSize(GetWidth(), m_listHeight));
   CheckForScroll();
   if (m_pScrollBar) {
     m_pScrollBar->SetWindowPos(GetWidth() - kBarWidth, 0, m_pScrollBar->GetWidth(), m_listHeight);
