@@ -23,6 +23,12 @@ int BarHeight(int treeHeight) {
   return std::max(1, treeHeight - 20);
 }
 
+// The view's right edge: a tree narrower than the bar and its gap keeps a
+// one-pixel view.
+int ViewRight(int treeWidth, int barWidth) {
+  return std::max(treeWidth, barWidth + kTreeGap + 1);
+}
+
 template <class C>
 C ReadColour(AssetManager* assets, const char* name) {
   C colour;
@@ -76,8 +82,9 @@ bool VornMainVUITreeControl::Create(int alignment, AssetManager* assetManager, i
 
 void VornMainVUITreeControl::PlaceRoot(int w, int h) {
   const int left = m_pScrollBar->GetWidth() + kTreeGap;
-  m_pRoot->SetDisplay(left, 0, w, h);
-  m_pRoot->GetRootControl()->SetWindowPos(left, 0, w - left, h);
+  const int right = ViewRight(w, m_pScrollBar->GetWidth());
+  m_pRoot->SetDisplay(left, 0, right, h);
+  m_pRoot->GetRootControl()->SetWindowPos(left, 0, right - left, h);
 }
 
 // ---- operations ------------------------------------------------------------------
@@ -89,7 +96,8 @@ void VornMainVUITreeControl::SetTreeSize(int w, int h) {
   m_pScrollBar->MakeTabImages();
   m_pScrollBar->SetSliderVal(value, false);
   m_pScrollBar->Refresh(false);
-  m_pRoot->SetDisplay(m_pScrollBar->GetWidth() + kTreeGap, 0, w, h);
+  m_pRoot->SetDisplay(m_pScrollBar->GetWidth() + kTreeGap, 0,
+                      ViewRight(w, m_pScrollBar->GetWidth()), h);
   Update();
   RefreshTree();
 }
