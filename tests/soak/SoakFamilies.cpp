@@ -15,14 +15,18 @@ void Tick(wxTimer* timer) {
   if (timer && timer->IsRunning()) timer->Notify();
 }
 
-template <class Button>
-VornControl* ImageButton(const SoakSkin& skin, const char* script, wxWindow* parent, int x, int y,
-                         int id, VornControlGroup* group) {
-  return new Button(skin.Images(script), x, y, parent, id, group);
-}
-
 void SetOn(VornControl* c, Random& r) {
   static_cast<VornButton*>(c)->SetOn(r.Chance(50));
+}
+
+// A button family drawn from one image set, reporting to the one-of-N side.
+template <class Button>
+SoakFamily ImageButton(const char* name, const char* script) {
+  return {name,
+          [script](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random&) {
+            return new Button(s.Images(script), x, y, p, id, g.OneOfN());
+          },
+          SetOn};
 }
 
 VornControl* MakeEdit(const SoakSkin& skin, wxWindow* parent, int x, int y, int id,
@@ -248,28 +252,13 @@ ColorA SkinColourA(const SoakSkin& skin, const char* name) {
   return WxCtoCA(skin.Colour(name));
 }
 
-}  // namespace
-
-namespace {
 std::vector<SoakFamily>& Table() {
   static std::vector<SoakFamily> families = [] {
     std::vector<SoakFamily> table = {
         // ---- buttons
-        {"push button",
-         [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random&) {
-           return ImageButton<VornPushButton>(s, "button_push.sts", p, x, y, id, g.OneOfN());
-         },
-         SetOn},
-        {"toggle button",
-         [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random&) {
-           return ImageButton<VornButtonToggle>(s, "button_toggle.sts", p, x, y, id, g.OneOfN());
-         },
-         SetOn},
-        {"radio button",
-         [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random&) {
-           return new VornRadioButton(s.Images("button_radio.sts"), x, y, p, id, g.OneOfN());
-         },
-         SetOn},
+        ImageButton<VornPushButton>("push button", "button_push.sts"),
+        ImageButton<VornButtonToggle>("toggle button", "button_toggle.sts"),
+        ImageButton<VornRadioButton>("radio button", "button_radio.sts"),
         {"moment button",
          [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random& r) {
            return new VornMomentBtn(
@@ -358,26 +347,6 @@ std::vector<SoakFamily>& Table() {
                         : bar->AddToRange(r.Value() * 100 - 50, r.Chance(50));
          }},
         // ---- text
-        {"edit",
-         [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random& r) {
-           return MakeEdit(s, p, x, y, id, g.OneOfN(), r, 0);
-         },
-         EditValue, nullptr, nullptr, EditTick},
-        {"date edit",
-         [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random& r) {
-           return MakeEdit(s, p, x, y, id, g.OneOfN(), r, 1);
-         },
-         EditValue, nullptr, nullptr, EditTick},
-        {"time edit",
-         [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random& r) {
-           return MakeEdit(s, p, x, y, id, g.OneOfN(), r, 2);
-         },
-         EditValue, nullptr, nullptr, EditTick},
-        {"scale edit",
-         [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random& r) {
-           return MakeEdit(s, p, x, y, id, g.OneOfN(), r, 3);
-         },
-         EditValue, nullptr, nullptr, EditTick},
         {"multi-line edit",
          [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random& r) {
            VornEditInfo info;
@@ -392,17 +361,6 @@ std::vector<SoakFamily>& Table() {
            auto* box = static_cast<VornMultiEdit*>(c);
            r.Chance(20) ? box->SetEditable(r.Chance(50)) : box->SetText(SoakText(r), r.Chance(50));
          }},
-        // ---- lists
-        {"list box",
-         [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random& r) {
-           return MakeList(s, p, x, y, id, g.OneOfN(), r, false);
-         },
-         ListValue, ListPopUp, ListPopDown},
-        {"list button",
-         [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random& r) {
-           return MakeList(s, p, x, y, id, g.OneOfN(), r, true);
-         },
-         ListValue, ListPopUp, ListPopDown},
         // ---- menus and bars
         {"pop-up button",
          [](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random& r) {
@@ -571,6 +529,20 @@ std::vector<SoakFamily>& Table() {
                         : horizon->SetPitchValue(static_cast<float>(r.Value()));
          }},
     };
+    // Families that differ only in one setting.
+    const char* const edits[] = {"edit", "date edit", "time edit", "scale edit"};
+    for (int kind = 0; kind < 4; ++kind)
+      table.push_back({edits[kind],
+                       [kind](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g,
+                              Random& r) { return MakeEdit(s, p, x, y, id, g.OneOfN(), r, kind); },
+                       EditValue, nullptr, nullptr, EditTick});
+    for (bool button : {false, true})
+      table.push_back(
+          {button ? "list button" : "list box",
+           [button](const SoakSkin& s, wxWindow* p, int x, int y, int id, SoakGroup& g, Random& r) {
+             return MakeList(s, p, x, y, id, g.OneOfN(), r, button);
+           },
+           ListValue, ListPopUp, ListPopDown});
     for (SoakFamily& f : SoakTableAndTreeFamilies()) table.push_back(std::move(f));
     return table;
   }();
