@@ -76,7 +76,8 @@ void BoxValue(VornControl* c, Random& r) {
          if (cell && cell->IsShownOnScreen()) SoakClick(cell, 3, 3);
        },
        [&] { r.Chance(50) ? box->SetScrollPos(r.Value()) : box->ScrollRows(r.Between(-5, 5)); },
-       [&] {  // the grip dragged, maybe released elsewhere
+       [&] {  // the grip of a shown box dragged, maybe released elsewhere
+         if (!box->IsShownOnScreen()) return;
          const wxRect grip = box->GripRect();
          const int x = grip.x + grip.width / 2, y = grip.y + grip.height / 2;
          SoakMouse(box, wxEVT_LEFT_DOWN, x, y, true);
