@@ -71,6 +71,7 @@ void VUITreeFields::Show(int n, VornControl* owner, int style, bool editable, in
 
 VUITreeSubEditBox* VUITreeFields::Get(int index) const {
   VORN_ASSERT(index >= 0 && index < static_cast<int>(m_fields.size()));
+  if (index < 0 || index >= static_cast<int>(m_fields.size())) return nullptr;
   return m_fields[index];
 }
 

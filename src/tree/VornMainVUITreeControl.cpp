@@ -17,6 +17,18 @@ constexpr int kTreeGap = 25;
 // Pixels of tree per wheel notch.
 constexpr double kWheelStep = 3.0 * kHeaderRowHeight;
 
+// The bar leaves 10 pixels above and below it; a tree lower than that keeps
+// a one-pixel bar (GTK refuses negative sizes).
+int BarHeight(int treeHeight) {
+  return std::max(1, treeHeight - 20);
+}
+
+// The view's right edge: a tree narrower than the bar and its gap keeps a
+// one-pixel view.
+int ViewRight(int treeWidth, int barWidth) {
+  return std::max(treeWidth, barWidth + kTreeGap + 1);
+}
+
 template <class C>
 C ReadColour(AssetManager* assets, const char* name) {
   C colour;
@@ -50,7 +62,7 @@ bool VornMainVUITreeControl::Create(int alignment, AssetManager* assetManager, i
   const auto mo = ReadColour<wxColour>(assetManager, kScrollBarMo);
   m_pScrollGroup = std::make_unique<VornControlGroupValue>();
   m_pScrollBar = std::make_unique<VornTreeRootScrollControl>();
-  m_pScrollBar->Create(fg, bg, mo, 10, 10, h - 20, this, wxID_ANY, m_pScrollGroup.get());
+  m_pScrollBar->Create(fg, bg, mo, 10, 10, BarHeight(h), this, wxID_ANY, m_pScrollGroup.get());
   m_pScrollBar->SetSliderVal(0.0, false);
   m_pScrollBar->Show(true);
   m_pScrollBar->SetRoot(this);
@@ -70,8 +82,9 @@ bool VornMainVUITreeControl::Create(int alignment, AssetManager* assetManager, i
 
 void VornMainVUITreeControl::PlaceRoot(int w, int h) {
   const int left = m_pScrollBar->GetWidth() + kTreeGap;
-  m_pRoot->SetDisplay(left, 0, w, h);
-  m_pRoot->GetRootControl()->SetWindowPos(left, 0, w - left, h);
+  const int right = ViewRight(w, m_pScrollBar->GetWidth());
+  m_pRoot->SetDisplay(left, 0, right, h);
+  m_pRoot->GetRootControl()->SetWindowPos(left, 0, right - left, h);
 }
 
 // ---- operations ------------------------------------------------------------------
@@ -79,11 +92,12 @@ void VornMainVUITreeControl::PlaceRoot(int w, int h) {
 void VornMainVUITreeControl::SetTreeSize(int w, int h) {
   SetSize(w, h);
   const double value = m_pScrollBar->GetSliderVal();
-  m_pScrollBar->SetSize(m_pScrollBar->GetWidth(), h - 20);
+  m_pScrollBar->SetSize(m_pScrollBar->GetWidth(), BarHeight(h));
   m_pScrollBar->MakeTabImages();
   m_pScrollBar->SetSliderVal(value, false);
   m_pScrollBar->Refresh(false);
-  m_pRoot->SetDisplay(m_pScrollBar->GetWidth() + kTreeGap, 0, w, h);
+  m_pRoot->SetDisplay(m_pScrollBar->GetWidth() + kTreeGap, 0,
+                      ViewRight(w, m_pScrollBar->GetWidth()), h);
   Update();
   RefreshTree();
 }

@@ -1,40 +1,13 @@
 // Texture upload inside a real OpenGL context (Mesa under Xvfb).
-#include <GL/gl.h>
-#include <gtest/gtest.h>
-#include <wx/glcanvas.h>
-#include <wx/wx.h>
-
-#include <memory>
 #include <vector>
 
-#include "GuiTestSupport.h"
+#include "GLTestSupport.h"
 #include "TestSupport.h"
 #include "vorn/VornGLTextureCache.h"
 
 namespace {
-class GLTexture : public ::testing::Test {
+class GLTexture : public GLContextTest {
  protected:
-  void SetUp() override {
-    m_frame = std::make_unique<TestFrame>(wxSize(120, 120));
-    wxGLAttributes attrs;
-    attrs.PlatformDefaults().RGBA().DoubleBuffer().EndList();
-    if (!wxGLCanvas::IsDisplaySupported(attrs))
-      GTEST_SKIP() << "no OpenGL visual on this display; texture upload not tested";
-    m_canvas = new wxGLCanvas(m_frame->Get(), attrs, wxID_ANY, wxDefaultPosition, wxSize(64, 64));
-    m_frame->Get()->Layout();
-    PumpEvents();
-    m_context = std::make_unique<wxGLContext>(m_canvas);
-    if (!m_context->IsOK()) GTEST_SKIP() << "cannot create an OpenGL context; upload not tested";
-    if (!m_canvas->SetCurrent(*m_context))
-      GTEST_SKIP() << "cannot make the OpenGL context current; upload not tested";
-    while (glGetError() != GL_NO_ERROR) {
-    }
-  }
-  void TearDown() override {
-    m_context.reset();
-    m_frame.reset();
-  }
-
   // Picture, texture and GL level sizes: w, h, tex w, tex h, level w, level h.
   static std::vector<int> Sizes(const CGLImage& texture) {
     GLint w = 0, h = 0;
@@ -55,10 +28,6 @@ class GLTexture : public ::testing::Test {
     glGetTexImage(GL_TEXTURE_2D, 0, format, GL_UNSIGNED_BYTE, pixels.data());
     return pixels;
   }
-
-  std::unique_ptr<TestFrame> m_frame;
-  wxGLCanvas* m_canvas = nullptr;
-  std::unique_ptr<wxGLContext> m_context;
 };
 
 BitmapA Gradient(int width, int height) {

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <random>
 #include <string>
 #include <vector>
@@ -23,6 +24,10 @@ class SoakRandom {
   bool Chance(int percent) { return Below(100) < percent; }
   // Mostly 0..1, sometimes outside it or far outside it.
   double Value();
+  // Runs one of the actions, each as likely as the others.
+  void OneOf(std::initializer_list<std::function<void()>> actions) {
+    (*(actions.begin() + Below(static_cast<int>(actions.size()))))();
+  }
   template <class T>
   T& Pick(std::vector<T>& from) {
     return from[static_cast<std::size_t>(Below(static_cast<int>(from.size())))];
@@ -41,7 +46,6 @@ class SoakGroup : public VornValueControlGroup1ofN {
   // Every control either registry holds, by id and without id.
   std::vector<VornControl*> Controls() const;
   std::vector<VornControlGroup*> SubGroups() const;
-  bool Holds(const VornControl* control) const;
   std::vector<unsigned int> Ids() const;
 };
 
@@ -64,21 +68,25 @@ struct SoakSkin {
 //           holds the mouse, or null (may be empty);
 //   popDown closes it again, if the pop-up does not close itself;
 //   tick    runs the control's running timers once, as their next tick
-//           would (may be empty).
+//           would (may be empty);
+//   parts   lists the controls it owns that may have no window yet but are
+//           alive and in a group (may be empty).
 struct SoakFamily {
   using Create = std::function<VornControl*(const SoakSkin&, wxWindow* parent, int x, int y, int id,
                                             SoakGroup& group, SoakRandom& random)>;
   using Action = std::function<void(VornControl*)>;
   using ValueAction = std::function<void(VornControl*, SoakRandom&)>;
   using PopUpAction = std::function<wxWindow*(VornControl*, SoakRandom&)>;
+  using PartsAction = std::function<void(VornControl*, std::vector<const VornControl*>&)>;
   SoakFamily(const char* familyName, Create make, ValueAction setValue = {}, PopUpAction open = {},
-             Action close = {}, Action timers = {})
+             Action close = {}, Action timers = {}, PartsAction windowless = {})
       : name(familyName),
         create(std::move(make)),
         value(std::move(setValue)),
         popUp(std::move(open)),
         popDown(std::move(close)),
-        tick(std::move(timers)) {}
+        tick(std::move(timers)),
+        parts(std::move(windowless)) {}
 
   const char* name;
   Create create;
@@ -86,9 +94,21 @@ struct SoakFamily {
   PopUpAction popUp;
   Action popDown;
   Action tick;
+  PartsAction parts;
 };
 
 const std::vector<SoakFamily>& SoakFamilies();
+// Keeps only the families whose name contains part; false when none does.
+bool SoakKeepFamilies(const std::string& part);
+// The multi-column box and the parameter tree.
+std::vector<SoakFamily> SoakTableAndTreeFamilies();
+
+// A short random text: ASCII, digits, blanks, line feeds and some UTF-8.
+VornString SoakText(SoakRandom& random);
+// One mouse event as wx delivers it to target.
+void SoakMouse(wxWindow* target, wxEventType type, int x, int y, bool left);
+// The pointer enters target at (x, y), presses and releases there.
+void SoakClick(wxWindow* target, int x, int y);
 
 // Runs steps steps from seed; on a failure writes what failed and returns
 // false.

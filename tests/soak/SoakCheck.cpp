@@ -39,7 +39,14 @@ std::set<const wxWindow*> SoakWorld::LiveWindows() const {
 }
 
 std::string SoakWorld::Check() const {
-  const std::set<const wxWindow*> windows = LiveWindows();
+  std::set<const wxWindow*> windows = LiveWindows();
+  for (const Live& l : m_controls)
+    if (!windows.count(l.control)) return std::string("a live ") + l.family->name + " is gone";
+  // Parts without a window yet are alive while their owner is.
+  std::vector<const VornControl*> parts;
+  for (const Live& l : m_controls)
+    if (l.family->parts) l.family->parts(l.control, parts);
+  windows.insert(parts.begin(), parts.end());
   std::set<const VornControlGroup*> sides;
   for (const auto& g : m_groups) {
     sides.insert(g->OneOfN());
@@ -61,7 +68,6 @@ std::string SoakWorld::Check() const {
         return "a group links to a dead parent group";
   }
   for (const Live& l : m_controls) {
-    if (!windows.count(l.control)) return std::string("a live ") + l.family->name + " is gone";
     const VornControlGroup* link = l.control->GetGroup();
     if (!link) continue;
     if (!sides.count(link)) {

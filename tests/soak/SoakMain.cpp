@@ -1,12 +1,15 @@
-// vorn_soak [--seed N] [--seeds K] [--steps N] [--verbose]
+// vorn_soak [--seed N] [--seeds K] [--steps N] [--family TEXT] [--verbose]
 // Runs K seeded soak runs of N steps from seed N onwards (default: seed 1,
-// one run, 10000 steps) inside a real wxApp; run under Xvfb without a
-// display. A failure prints its seed and step, and the command that replays it.
+// one run, 10000 steps) inside a real wxApp, over every family or those whose
+// name contains TEXT; run under Xvfb without a display. A failure prints its
+// seed and step, and the command that replays it.
+#include <dlfcn.h>
 #include <wx/wx.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <string>
 
 #include "SoakWorld.h"
@@ -24,6 +27,31 @@ double SoakRandom::Value() {
   }
 }
 
+VornString SoakText(SoakRandom& r) {
+  static const char* const kPieces[] = {
+      "a", "Z", "0", "7", "-", ".", " ", "\n", "\t", "é", "\xe2\x82\xac", "42", "3.25e3", "x y"};
+  VornString text;
+  const int n = r.Chance(10) ? r.Between(50, 300) : r.Below(12);
+  for (int i = 0; i < n; ++i) text += kPieces[r.Below(static_cast<int>(std::size(kPieces)))];
+  return text;
+}
+
+void SoakMouse(wxWindow* target, wxEventType type, int x, int y, bool left) {
+  wxMouseEvent e(type);
+  e.SetEventObject(target);
+  e.SetId(target->GetId());
+  e.m_x = x;
+  e.m_y = y;
+  e.m_leftDown = left;
+  target->GetEventHandler()->ProcessEvent(e);
+}
+
+void SoakClick(wxWindow* target, int x, int y) {
+  SoakMouse(target, wxEVT_ENTER_WINDOW, x, y, false);
+  SoakMouse(target, wxEVT_LEFT_DOWN, x, y, true);
+  SoakMouse(target, wxEVT_LEFT_UP, x, y, false);
+}
+
 std::vector<VornControl*> SoakGroup::Controls() const {
   std::vector<VornControl*> out;
   for (const auto& e : VornControlGroup1ofN::m_controlsById) out.push_back(e.control);
@@ -38,12 +66,6 @@ std::vector<VornControlGroup*> SoakGroup::SubGroups() const {
   out.insert(out.end(), VornControlGroupValue::m_groups.begin(),
              VornControlGroupValue::m_groups.end());
   return out;
-}
-
-bool SoakGroup::Holds(const VornControl* control) const {
-  for (const VornControl* c : Controls())
-    if (c == control) return true;
-  return false;
 }
 
 std::vector<unsigned int> SoakGroup::Ids() const {
@@ -102,6 +124,23 @@ void OnWxAssertion(const wxString& file, int line, const wxString& function, con
                   ")";
 }
 
+// GTK's own checks (a negative window size, say) fail the run too. GLib is
+// reached through the GTK that wx loaded: its headers are not needed.
+void CatchGtkCriticals() {
+  using Handler = void (*)(const char*, int, const char*, void*);
+  using SetHandler = unsigned (*)(const char*, int, Handler, void*);
+  auto set = reinterpret_cast<SetHandler>(dlsym(RTLD_DEFAULT, "g_log_set_handler"));
+  if (!set) return;
+  const int kCritical = 1 << 3;  // G_LOG_LEVEL_CRITICAL
+  for (const char* domain : {"Gtk", "Gdk", "GLib-GObject"})
+    set(
+        domain, kCritical,
+        [](const char* from, int, const char* message, void*) {
+          if (g_assertion.empty()) g_assertion = std::string(from) + " critical: " + message;
+        },
+        nullptr);
+}
+
 class SoakApp : public wxApp {
  public:
   bool OnInit() override { return true; }
@@ -157,10 +196,17 @@ int main(int argc, char** argv) {
       seeds = std::atoi(argv[++i]);
     } else if (!std::strcmp(argv[i], "--steps") && more) {
       steps = std::atoi(argv[++i]);
+    } else if (!std::strcmp(argv[i], "--family") && more) {
+      if (!SoakKeepFamilies(argv[++i])) {
+        std::fprintf(stderr, "vorn_soak: no family named like %s\n", argv[i]);
+        return 2;
+      }
     } else if (!std::strcmp(argv[i], "--verbose")) {
       verbose = true;
     } else {
-      std::fprintf(stderr, "usage: vorn_soak [--seed N] [--seeds K] [--steps N] [--verbose]\n");
+      std::fprintf(stderr,
+                   "usage: vorn_soak [--seed N] [--seeds K] [--steps N] [--family TEXT] "
+                   "[--verbose]\n");
       return 2;
     }
   }
@@ -175,6 +221,7 @@ int main(int argc, char** argv) {
   wxInitAllImageHandlers();
   wxSetAssertHandler(OnWxAssertion);
   VornSetAssertHandler(OnVornAssertion);
+  CatchGtkCriticals();
   SetWarningMessageHandler([](const VornString&, const VornString&) {});
   SetDprintfHandler([](const char*) {});
   int failed = 0;

@@ -218,7 +218,7 @@ void SoakWorld::MouseEvents() {
     Live* live = PickControl();
     // A hidden window gets no mouse events.
     if (!live || !live->control->IsShownOnScreen()) return;
-    target = live->control;
+    target = PickInside(live->control);
   }
   const wxEventType types[] = {
       wxEVT_LEFT_DOWN,  wxEVT_LEFT_UP,  wxEVT_MOTION,       wxEVT_MOTION,       wxEVT_LEFT_DCLICK,
@@ -233,7 +233,24 @@ void SoakWorld::MouseEvents() {
     // The capture may have moved (a pop-up opened or closed): follow it.
     wxWindow* now = wxWindow::GetCapture();
     if (now && now != target) target = now;
+    if (!now && !LiveWindows().count(target)) return;  // a click removed it
   }
+}
+
+wxWindow* SoakWorld::PickInside(wxWindow* control) {
+  // Compound controls' parts (cells, editors, a bar's buttons) get events
+  // of their own, as they do under the pointer.
+  if (m_random.Chance(50)) return control;
+  std::vector<wxWindow*> inside;
+  std::function<void(wxWindow*)> add = [&](wxWindow* w) {
+    for (wxWindow* child : w->GetChildren()) {
+      if (!child->IsShownOnScreen()) continue;
+      inside.push_back(child);
+      add(child);
+    }
+  };
+  add(control);
+  return inside.empty() ? control : m_random.Pick(inside);
 }
 
 void SoakWorld::SendKey(wxWindow* target, wxEventType type, int code, bool control, bool shift) {
@@ -250,7 +267,7 @@ void SoakWorld::SendKey(wxWindow* target, wxEventType type, int code, bool contr
 void SoakWorld::KeyEvents() {
   Live* live = PickControl();
   if (!live) return;
-  wxWindow* target = live->control;
+  wxWindow* target = PickInside(live->control);
   if (auto* list = dynamic_cast<VornListBoxCallback*>(live->control))
     if (list->GetExpanded() && m_random.Chance(70)) target = list->GetExpanded();
   const int n = m_random.Between(1, 5);
@@ -258,12 +275,10 @@ void SoakWorld::KeyEvents() {
     const int code =
         kKeys[static_cast<std::size_t>(m_random.Below(static_cast<int>(kKeys.size())))];
     const bool control = m_random.Chance(15), shift = m_random.Chance(20);
-    SendKey(target, wxEVT_KEY_DOWN, code, control, shift);
-    SendKey(target, wxEVT_CHAR, code, control, shift);
-    SendKey(target, wxEVT_KEY_UP, code, control, shift);
-    if (target != live->control) {
-      auto* list = dynamic_cast<VornListBoxCallback*>(live->control);
-      if (!list || list->GetExpanded() != target) return;
+    // A key may close the pop-up or remove the part it was sent to.
+    for (wxEventType type : {wxEVT_KEY_DOWN, wxEVT_CHAR, wxEVT_KEY_UP}) {
+      if (target != live->control && !LiveWindows().count(target)) return;
+      SendKey(target, type, code, control, shift);
     }
   }
 }
@@ -328,25 +343,11 @@ void SoakWorld::Broadcast() {
       m_random.Chance(50) ? static_cast<VornControlGroup*>(group->OneOfN()) : group->Value();
   // No control is on the call stack: the saboteur may strike.
   m_broadcasting = true;
-  switch (m_random.Below(4)) {
-    case 0: {
-      RealValChanged hint(m_random.Value());
-      side->Update(id, nullptr, &hint);
-      break;
-    }
-    case 1: {
-      IntValChanged hint(m_random.Between(-100000, 100000));
-      side->Update(id, nullptr, &hint);
-      break;
-    }
-    case 2: {
-      VUIControlChanged hint;
-      side->Update(id, nullptr, &hint);
-      break;
-    }
-    default:
-      side->Update(id, nullptr, nullptr);
-  }
+  RealValChanged real(m_random.Value());
+  IntValChanged whole(m_random.Between(-100000, 100000));
+  VUIControlChanged changed;
+  VornControlHint* hints[] = {&real, &whole, &changed, nullptr};
+  side->Update(id, nullptr, hints[m_random.Below(4)]);
   m_broadcasting = false;
 }
 
@@ -359,19 +360,10 @@ void SoakWorld::GroupOperation() {
                   : ids[static_cast<std::size_t>(m_random.Below(static_cast<int>(ids.size())))];
   VornControlGroup* side =
       m_random.Chance(50) ? static_cast<VornControlGroup*>(group->OneOfN()) : group->Value();
-  switch (m_random.Below(4)) {
-    case 0:
-      side->SetEnableAll(nullptr, m_random.Chance(70), nullptr);
-      break;
-    case 1:
-      side->ShowAll(nullptr, m_random.Chance(80), nullptr);
-      break;
-    case 2:
-      side->SetOnControl(id, m_random.Chance(50), nullptr);
-      break;
-    default:
-      side->SetEnableControl(id, m_random.Chance(70), nullptr);
-  }
+  m_random.OneOf({[&] { side->SetEnableAll(nullptr, m_random.Chance(70), nullptr); },
+                  [&] { side->ShowAll(nullptr, m_random.Chance(80), nullptr); },
+                  [&] { side->SetOnControl(id, m_random.Chance(50), nullptr); },
+                  [&] { side->SetEnableControl(id, m_random.Chance(70), nullptr); }});
 }
 
 void SoakWorld::Pump() {

@@ -67,6 +67,7 @@ class SoakWorld {
 
   // ---- helpers
   Live* PickControl();
+  wxWindow* PickInside(wxWindow* control);  // the control or a shown window inside it
   SoakGroup* PickGroup();
   void Forget(wxWindow* dying);        // drops controls inside a window about to go
   void DestroyGroupAt(std::size_t i);  // deletes a group and remembers its address

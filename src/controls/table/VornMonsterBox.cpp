@@ -17,6 +17,12 @@ namespace {
 constexpr int kFrameCorner = 8;
 constexpr int kHeadingCorner = 4;
 constexpr int kAlternateLightness = 110;  // every second row is a little lighter
+
+// A box narrower or lower than its margins keeps a one-pixel panel and bar:
+// GTK refuses negative sizes.
+wxSize PanelSize(int boxWidth, int listHeight) {
+  return wxSize(std::max(1, boxWidth - kPanelWidthLess), std::max(1, listHeight));
+}
 }  // namespace
 
 // clang-format off
@@ -28,9 +34,9 @@ wxBEGIN_EVENT_TABLE(VornMonsterBox, VornControl)
   EVT_MOUSEWHEEL(VornMonsterBox::OnMouseWheel)
   EVT_MOUSE_CAPTURE_LOST(VornMonsterBox::OnResizeCaptureLost)
 wxEND_EVENT_TABLE()
-// clang-format on
+    // clang-format on
 
-VornMonsterBox::VornMonsterBox()
+    VornMonsterBox::VornMonsterBox()
     : m_scrollOutline(122, 134, 150),
       m_scrollBackground(29, 33, 40),
       m_cellBackground(29, 33, 40),
@@ -51,9 +57,8 @@ bool VornMonsterBox::Create(const wxBitmap* frame, const wxBitmap* heading, cons
       VornControl::Create(x, y, w, h, parent, id, group, style & ~kMonsterBoxResizable);
   m_listHeight = h - kListHeightLess;
   m_backBuffer = wxBitmap(std::max(1, w), std::max(1, h));
-  m_pPanel =
-      new wxPanel(this, wxID_ANY, wxPoint(kPanelX, kPanelY),
-                  wxSize(w - kPanelWidthLess, m_listHeight), wxTAB_TRAVERSAL | wxBORDER_NONE);
+  m_pPanel = new wxPanel(this, wxID_ANY, wxPoint(kPanelX, kPanelY), PanelSize(w, m_listHeight),
+                         wxTAB_TRAVERSAL | wxBORDER_NONE);
   m_pPanel->SetBackgroundColour(m_cellBackground);
   m_pPanel->Bind(wxEVT_MOUSEWHEEL, &VornMonsterBox::OnMouseWheel, this);
   return created;
@@ -205,7 +210,7 @@ void VornMonsterBox::CheckForScroll() {
       m_pScrollBar =
           new MonsterScrollBar(m_pScrollHandle, m_pScrollHandle, m_pScrollHandle, m_scrollOutline,
                                m_scrollBackground, CtoWxC(m_scrollHover), GetWidth() - kBarWidth, 0,
-                               m_listHeight, this, -1, nullptr, m_bResizable);
+                               PanelSize(0, m_listHeight).y, this, -1, nullptr, m_bResizable);
       m_pScrollBar->SetBox(this);
       m_pScrollBar->Hide();
     }
@@ -313,10 +318,11 @@ void VornMonsterBox::ApplyHeight(int height) {
   VornWindow::SetSize(GetWidth(), height);
   m_backBuffer = wxBitmap(std::max(1, GetWidth()), std::max(1, height));
   m_listHeight = height - kListHeightLess;
-  if (m_pPanel) m_pPanel->SetSize(GetWidth() - kPanelWidthLess, m_listHeight);
+  if (m_pPanel) m_pPanel->SetSize(PanelSize(GetWidth(), m_listHeight));
   CheckForScroll();
   if (m_pScrollBar) {
-    m_pScrollBar->SetWindowPos(GetWidth() - kBarWidth, 0, m_pScrollBar->GetWidth(), m_listHeight);
+    m_pScrollBar->SetWindowPos(GetWidth() - kBarWidth, 0, m_pScrollBar->GetWidth(),
+                               PanelSize(0, m_listHeight).y);
     // A hidden bar keeps its last value: the rows fit and stay at the top.
     if (m_pScrollBar->IsVisible()) SetScrollPos(m_pScrollBar->GetSliderVal());
   }

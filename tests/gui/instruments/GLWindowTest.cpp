@@ -1,16 +1,9 @@
 // The OpenGL drawing region: sizes and bounds without GL, then the state
 // PrepareContext leaves and the pixels the base draws in a Mesa context.
-#define GL_GLEXT_PROTOTYPES 1
-#include <GL/gl.h>
-#include <GL/glext.h>
-#include <gtest/gtest.h>
-#include <wx/glcanvas.h>
-
 #include <array>
-#include <memory>
 #include <vector>
 
-#include "GuiTestSupport.h"
+#include "../GLTestSupport.h"
 #include "vorn/VornGLWindow.h"
 
 namespace {
@@ -68,44 +61,11 @@ TEST(VornGLWindow, DrawPlacesAndBounds) {
   EXPECT_EQ(region.paints, 2);
 }
 
-class VornGLWindowContext : public ::testing::Test {
+class VornGLWindowContext : public GLContextTest {
  protected:
-  static constexpr int kSide = 64;
   void SetUp() override {
-    m_frame = std::make_unique<TestFrame>(wxSize(120, 120));
-    wxGLAttributes attrs;
-    attrs.PlatformDefaults().RGBA().DoubleBuffer().EndList();
-    if (!wxGLCanvas::IsDisplaySupported(attrs))
-      GTEST_SKIP() << "no OpenGL visual on this display; GL drawing not tested";
-    m_canvas =
-        new wxGLCanvas(m_frame->Get(), attrs, wxID_ANY, wxDefaultPosition, wxSize(kSide, kSide));
-    m_frame->Get()->Layout();
-    PumpEvents();
-    m_context = std::make_unique<wxGLContext>(m_canvas);
-    if (!m_context->IsOK()) GTEST_SKIP() << "cannot create an OpenGL context";
-    if (!m_canvas->SetCurrent(*m_context)) GTEST_SKIP() << "cannot make the context current";
-    while (glGetError() != GL_NO_ERROR) {
-    }
-    // Drawn off screen: the canvas's window may not be mapped yet under Xvfb.
-    glGenFramebuffers(1, &m_fbo);
-    glGenRenderbuffers(1, &m_colour);
-    glBindRenderbuffer(GL_RENDERBUFFER, m_colour);
-    glRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, kSide, kSide);
-    glBindFramebuffer(GL_FRAMEBUFFER, m_fbo);
-    glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, m_colour);
-    if (glCheckFramebufferStatus(GL_FRAMEBUFFER) != GL_FRAMEBUFFER_COMPLETE)
-      GTEST_SKIP() << "no off-screen framebuffer in this context";
-    glDrawBuffer(GL_COLOR_ATTACHMENT0);
-    glReadBuffer(GL_COLOR_ATTACHMENT0);
-  }
-  void TearDown() override {
-    if (m_context && m_fbo) {
-      glBindFramebuffer(GL_FRAMEBUFFER, 0);
-      glDeleteFramebuffers(1, &m_fbo);
-      glDeleteRenderbuffers(1, &m_colour);
-    }
-    m_context.reset();
-    m_frame.reset();
+    GLContextTest::SetUp();
+    if (!IsSkipped() && !DrawOffScreen()) GTEST_SKIP() << "no off-screen framebuffer";
   }
   // Window pixels to GL: x right, y down, as a host sets it up.
   static void PixelProjection() {
@@ -123,11 +83,6 @@ class VornGLWindowContext : public ::testing::Test {
     glReadPixels(x, kSide - 1 - y, 1, 1, GL_RGB, GL_UNSIGNED_BYTE, rgb);
     return {rgb[0], rgb[1], rgb[2]};
   }
-
-  std::unique_ptr<TestFrame> m_frame;
-  wxGLCanvas* m_canvas = nullptr;
-  std::unique_ptr<wxGLContext> m_context;
-  GLuint m_fbo = 0, m_colour = 0;
 };
 
 TEST_F(VornGLWindowContext, PrepareContextLeavesAFlatUnlitState) {

@@ -2,6 +2,8 @@
 // under real mouse events, what reaches the group, and what they draw.
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "InstrumentTestSupport.h"
 
 namespace {
@@ -94,11 +96,21 @@ TEST_F(InstrumentControlTest, HorizonHandlesFollowRollAndPitch) {
   VornAHorizonControl horizon(nullptr, kCx, kCy, kR, 0, 0, 120, 120, frame.Get(), 11, &group);
   // Level: A right, B left, C in the middle of a vertical track.
   EXPECT_EQ(Coords(horizon), std::vector<int>({100, 60, 20, 60, 60, 60, 60, 100, 60, 20}));
-  horizon.SetPitchValue(0.0f);
-  EXPECT_EQ(horizon.GetHandles().c, wxPoint(60, 20));
-  horizon.SetPitchValue(1.0f);
-  EXPECT_EQ(horizon.GetHandles().c, wxPoint(60, 100));
-  horizon.SetPitchValue(0.5f);
+  // The pitch puts C along the track; outside 0..1 it is held at the nearer
+  // end, as a drag's is, so that C never leaves the ball.
+  const struct {
+    float in, pitch;
+    wxPoint c;
+  } pitches[] = {{0.0f, 0.0f, {60, 20}},      {1.0f, 1.0f, {60, 100}}, {0.25f, 0.25f, {60, 40}},
+                 {1e9f, 1.0f, {60, 100}},     {-3.0f, 0.0f, {60, 20}}, {NAN, 0.0f, {60, 20}},
+                 {INFINITY, 1.0f, {60, 100}}, {0.5f, 0.5f, {60, 60}}};
+  for (const auto& p : pitches) {
+    SCOPED_TRACE(p.in);
+    horizon.SetPitchValue(p.in);
+    EXPECT_FLOAT_EQ(horizon.GetPitchValue(), p.pitch);
+    EXPECT_EQ(horizon.GetHandles().c, p.c);
+    Render(&horizon, 120, 120);  // draws within the ball
+  }
   horizon.SetValue(0.25f);  // A on top, the track across
   EXPECT_EQ(Coords(horizon), std::vector<int>({60, 20, 60, 100, 60, 60, 100, 60, 20, 60}));
   horizon.SetValue(0.125f);

@@ -152,6 +152,13 @@ TEST_F(MonsterBoxTest, SetSizeResizesLikeTheGripAndSetsThePanelWidth) {
   EXPECT_EQ(wxSize(350, 13), box->GetPanel()->GetSize());
   EXPECT_EQ(389, box->GetScrollBar()->GetPosX());
   EXPECT_EQ(13, box->GetScrollBar()->GetHeight());
+  // Narrower than the margins: a one-pixel panel, never a negative size;
+  // lower (a maximum below the minimum): a one-pixel bar.
+  box->SetSize(18, 231);
+  EXPECT_EQ(wxSize(1, 169), box->GetPanel()->GetSize());
+  box->SetMaxSize(55);
+  box->SetSize(290, 166);
+  EXPECT_EQ(1, box->GetScrollBar()->GetSize().y);
 }
 
 TEST_F(MonsterBoxTest, ANewRowHeightLaysTheRowsOutAgain) {

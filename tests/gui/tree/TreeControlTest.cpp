@@ -107,6 +107,11 @@ TEST(TreeControl, ScrollBarAppearsWhenTheTreeOutgrowsTheView) {
   EXPECT_TRUE(bar->IsVisible());
   EXPECT_DOUBLE_EQ(bar->GetFractionVal(), 100.0 / 150.0);
   EXPECT_EQ(bar->GetHeight(), 80);
+  // Lower than the bar's margins, narrower than the bar and its gap: one
+  // pixel, never a negative size.
+  f.tree->SetTreeSize(20, 12);
+  EXPECT_EQ(bar->GetSize().y, 1);
+  EXPECT_EQ(f.Root()->GetRootControl()->GetSize().x, 1);
 }
 
 TEST(TreeControl, CreateReadsTheTreeColoursFromTheSkin) {

@@ -285,6 +285,14 @@ TEST_F(TreeEditorsTest, ATypedFieldIsReadBackAndReported) {
   EXPECT_FALSE(e->GetField(2)->IsEditable());
   e->ForceStyle(VornEdit::ES_INT);
   EXPECT_EQ(TextOf(e->GetField(1)), "-7");
+  // No field past the last: refused once the assertion returns.
+  static std::string fired;
+  const VornAssertHandler previous =
+      VornSetAssertHandler([](const VornAssertInfo& info) { fired = info.condition; });
+  VUITreeSubEditBox* past = e->GetField(3);
+  VornSetAssertHandler(previous);
+  EXPECT_EQ(past, nullptr);
+  EXPECT_EQ(fired, "index >= 0 && index < static_cast<int>(m_fields.size())");
 }
 
 TEST_F(TreeEditorsTest, AValueSetBeforeTheWindowsExistIsShownWhenTheyAre) {
