@@ -97,84 +97,103 @@ VORN_AVX512 inline __m512i BlendBlock(__m512i a, __m512i base, __m512i d, __m512
   return _mm512_mask_sub_epi8(sum, plusOne, sum, allOnes);
 }
 
+// What one call's steps share: the per-call tables loaded into registers.
+struct Loaded {
+  Table red, green, blue, lambdas, log16;
+  __m512i highMask;
+};
+
+template <bool full>
+VORN_AVX512 inline void Store(unsigned char* out, __mmask64 lanes, __m512i value) {
+  if (full && lanes == ~0ull)
+    _mm512_storeu_si512(out, value);
+  else
+    _mm512_mask_storeu_epi8(out, lanes, value);
+}
+
+// One step of up to 64 pixels from pixel i. Whole steps (full) go with plain
+// loads and stores; only the last, partial one needs masks.
+template <ColourMode colours, AlphaMode alpha, bool full>
+VORN_AVX512 inline void Step(unsigned char* px, const unsigned char* mask, std::size_t i,
+                             std::size_t count, const Loaded& t, const Indexes& ix) {
+  const __m512i spread = _mm512_load_si512(ix.spread);
+  const __m512i sumWeights = _mm512_set1_epi32(0x00010101);
+  const __m512i ones16 = _mm512_set1_epi16(1);
+  const __m512i third = _mm512_set1_epi32(21846);  // (s * 21846) >> 16 == s / 3 for s <= 765
+  __m512i grey[4];
+  __mmask64 in4[4];
+  for (int v = 0; v < 4; ++v) {
+    const std::size_t first = i + 16 * v;
+    const std::size_t n = full ? 16 : first >= count ? 0 : std::min<std::size_t>(16, count - first);
+    const __mmask64 in3 = n == 16 ? 0xFFFFFFFFFFFFull : (1ull << (3 * n)) - 1;
+    in4[v] = n == 16 ? ~0ull : (1ull << (4 * n)) - 1;
+    const __m512i rgb = _mm512_maskz_loadu_epi8(in3, mask + 3 * first);
+    const __m512i spreadRgb = _mm512_maskz_permutexvar_epi8(kColour, spread, rgb);
+    const __m512i sum = _mm512_madd_epi16(_mm512_maddubs_epi16(spreadRgb, sumWeights), ones16);
+    grey[v] = _mm512_mulhi_epu16(sum, third);
+  }
+  if constexpr (colours == ColourMode::kKeep) {
+    // Alpha alone: each block's grey bytes to its alpha lanes.
+    const __m512i widen = _mm512_load_si512(ix.widen);
+    for (int v = 0; v < 4 && in4[v]; ++v) {
+      __m512i g = _mm512_shuffle_epi8(grey[v], widen);
+      if constexpr (alpha == AlphaMode::kMap) g = _mm512_movm_epi8(_mm512_test_epi8_mask(g, g));
+      Store<full>(px + 4 * (i + 16 * v), in4[v] & kAlpha, g);
+    }
+  } else {
+    const __m512i packed = _mm512_packus_epi16(_mm512_packus_epi32(grey[0], grey[1]),
+                                               _mm512_packus_epi32(grey[2], grey[3]));
+    const __mmask64 high = _mm512_movepi8_mask(packed);
+    const __m512i r = Lookup(t.red, packed, high);
+    const __m512i g = Lookup(t.green, packed, high);
+    const __m512i b = Lookup(t.blue, packed, high);
+    __m512i alphas = packed;
+    if constexpr (alpha == AlphaMode::kMap)
+      alphas = _mm512_movm_epi8(_mm512_test_epi8_mask(packed, packed));
+    __m512i lambda = _mm512_setzero_si512();
+    if constexpr (colours == ColourMode::kMap) lambda = Lookup(t.lambdas, packed, high);
+    for (int v = 0; v < 4 && in4[v]; ++v) {
+      unsigned char* out = px + 4 * (i + 16 * v);
+      const __m512i own = _mm512_load_si512(ix.own[v]);
+      __m512i a = _mm512_permutex2var_epi8(r, _mm512_load_si512(ix.redGreen[v]), g);
+      a = _mm512_mask_permutexvar_epi8(a, kBlue, own, b);
+      if constexpr (alpha != AlphaMode::kKeep)
+        a = _mm512_mask_permutexvar_epi8(a, kAlpha, own, alphas);
+      if constexpr (colours == ColourMode::kSet) {
+        Store<full>(out, alpha == AlphaMode::kKeep ? in4[v] & kColour : in4[v], a);
+      } else {
+        const __m512i d = full ? _mm512_loadu_si512(out) : _mm512_maskz_loadu_epi8(in4[v], out);
+        const __m512i h16 =
+            _mm512_sub_epi16(_mm512_set1_epi16(0x00FF),
+                             _mm512_shuffle_epi8(grey[v], _mm512_load_si512(ix.wordGrey)));
+        const __m512i lambdaPx = _mm512_maskz_permutexvar_epi8(~0ull, own, lambda);
+        Store<full>(out, in4[v],
+                    BlendBlock(a, alpha == AlphaMode::kKeep ? d : a, d, h16, lambdaPx, t.log16,
+                               t.highMask));
+      }
+    }
+  }
+}
+
 template <ColourMode colours, AlphaMode alpha>
 VORN_AVX512 std::size_t Run(unsigned char* px, const unsigned char* mask, std::size_t count,
                             const GreyTables& tables) {
   static const Indexes ix;
   const BlendRule& rule = Rule();
-  const __m512i spread = _mm512_load_si512(ix.spread);
-  const __m512i sumWeights = _mm512_set1_epi32(0x00010101);
-  const __m512i ones16 = _mm512_set1_epi16(1);
-  const __m512i third = _mm512_set1_epi32(21846);  // (s * 21846) >> 16 == s / 3 for s <= 765
-  Table red{}, green{}, blue{}, lambdas{}, log16{};
-  __m512i highMask = _mm512_setzero_si512();
+  Loaded t{};
   if constexpr (colours != ColourMode::kKeep) {
-    red = LoadTable(tables.byGrey[0].data());
-    green = LoadTable(tables.byGrey[1].data());
-    blue = LoadTable(tables.byGrey[2].data());
+    t.red = LoadTable(tables.byGrey[0].data());
+    t.green = LoadTable(tables.byGrey[1].data());
+    t.blue = LoadTable(tables.byGrey[2].data());
   }
   if constexpr (colours == ColourMode::kMap) {
-    lambdas = LoadTable(rule.lambda.data());
-    log16 = LoadTable(rule.log16.data());
-    highMask = _mm512_load_si512(rule.highMask.data());
+    t.lambdas = LoadTable(rule.lambda.data());
+    t.log16 = LoadTable(rule.log16.data());
+    t.highMask = _mm512_load_si512(rule.highMask.data());
   }
-  for (std::size_t i = 0; i < count; i += 64) {
-    __m512i grey[4];
-    __mmask64 in4[4];
-    for (int v = 0; v < 4; ++v) {
-      const std::size_t first = i + 16 * v;
-      const std::size_t n = first >= count ? 0 : std::min<std::size_t>(16, count - first);
-      const __mmask64 in3 = n == 16 ? 0xFFFFFFFFFFFFull : (1ull << (3 * n)) - 1;
-      in4[v] = n == 16 ? ~0ull : (1ull << (4 * n)) - 1;
-      const __m512i rgb = _mm512_maskz_loadu_epi8(in3, mask + 3 * first);
-      const __m512i spreadRgb = _mm512_maskz_permutexvar_epi8(kColour, spread, rgb);
-      const __m512i sum = _mm512_madd_epi16(_mm512_maddubs_epi16(spreadRgb, sumWeights), ones16);
-      grey[v] = _mm512_mulhi_epu16(sum, third);
-    }
-    if constexpr (colours == ColourMode::kKeep) {
-      // Alpha alone: each block's grey bytes to its alpha lanes.
-      const __m512i widen = _mm512_load_si512(ix.widen);
-      for (int v = 0; v < 4 && in4[v]; ++v) {
-        __m512i g = _mm512_shuffle_epi8(grey[v], widen);
-        if constexpr (alpha == AlphaMode::kMap) g = _mm512_movm_epi8(_mm512_test_epi8_mask(g, g));
-        _mm512_mask_storeu_epi8(px + 4 * (i + 16 * v), in4[v] & kAlpha, g);
-      }
-    } else {
-      const __m512i packed = _mm512_packus_epi16(_mm512_packus_epi32(grey[0], grey[1]),
-                                                 _mm512_packus_epi32(grey[2], grey[3]));
-      const __mmask64 high = _mm512_movepi8_mask(packed);
-      const __m512i r = Lookup(red, packed, high);
-      const __m512i g = Lookup(green, packed, high);
-      const __m512i b = Lookup(blue, packed, high);
-      __m512i alphas = packed;
-      if constexpr (alpha == AlphaMode::kMap)
-        alphas = _mm512_movm_epi8(_mm512_test_epi8_mask(packed, packed));
-      __m512i lambda = _mm512_setzero_si512();
-      if constexpr (colours == ColourMode::kMap) {
-        lambda = Lookup(lambdas, packed, high);
-      }
-      for (int v = 0; v < 4 && in4[v]; ++v) {
-        unsigned char* out = px + 4 * (i + 16 * v);
-        const __m512i own = _mm512_load_si512(ix.own[v]);
-        __m512i a = _mm512_permutex2var_epi8(r, _mm512_load_si512(ix.redGreen[v]), g);
-        a = _mm512_mask_permutexvar_epi8(a, kBlue, own, b);
-        if constexpr (alpha != AlphaMode::kKeep)
-          a = _mm512_mask_permutexvar_epi8(a, kAlpha, own, alphas);
-        if constexpr (colours == ColourMode::kSet) {
-          _mm512_mask_storeu_epi8(out, alpha == AlphaMode::kKeep ? in4[v] & kColour : in4[v], a);
-        } else {
-          const __m512i d = _mm512_maskz_loadu_epi8(in4[v], out);
-          const __m512i h16 =
-              _mm512_sub_epi16(_mm512_set1_epi16(0x00FF),
-                               _mm512_shuffle_epi8(grey[v], _mm512_load_si512(ix.wordGrey)));
-          const __m512i lambdaPx = _mm512_maskz_permutexvar_epi8(~0ull, own, lambda);
-          _mm512_mask_storeu_epi8(
-              out, in4[v],
-              BlendBlock(a, alpha == AlphaMode::kKeep ? d : a, d, h16, lambdaPx, log16, highMask));
-        }
-      }
-    }
-  }
+  std::size_t i = 0;
+  for (; i + 64 <= count; i += 64) Step<colours, alpha, true>(px, mask, i, count, t, ix);
+  if (i < count) Step<colours, alpha, false>(px, mask, i, count, t, ix);
   return count;
 }
 }  // namespace
