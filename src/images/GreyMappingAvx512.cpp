@@ -35,14 +35,12 @@ constexpr __mmask64 kOdd = 0xAAAAAAAAAAAAAAAAull;
 struct Indexes {
   alignas(64) unsigned char spread[64];       // pixel p's r, g, b from mask bytes 3p..3p+2
   alignas(64) unsigned char widen[64];        // grey of dword p to its four bytes
-  alignas(64) unsigned char wordGrey[64];     // grey of dword p to the low byte of its words
   alignas(64) unsigned char own[4][64];       // each byte of block v's pixel: its packed byte
   alignas(64) unsigned char redGreen[4][64];  // the same, the green bytes from a second table
   Indexes() {
     for (int i = 0; i < 64; ++i) {
       spread[i] = static_cast<unsigned char>(i % 4 == 3 ? 0 : (i / 4) * 3 + i % 4);
       widen[i] = static_cast<unsigned char>((i % 16) / 4 * 4);
-      wordGrey[i] = static_cast<unsigned char>(i % 2 ? 0x80 : (i % 16) / 4 * 4);
       for (int v = 0; v < 4; ++v) {
         const int j = i / 4, packed = 16 * (j / 4) + 4 * v + j % 4;
         own[v][i] = static_cast<unsigned char>(packed);
@@ -70,15 +68,16 @@ VORN_AVX512 inline __m512i Lookup(const Table& t, __m512i index, __mmask64 high)
 }
 
 // The blend of one 16-pixel block: a holds the table bytes, base what the
-// alpha lanes get, d the destination, h16 255 - grey in each word.
-VORN_AVX512 inline __m512i BlendBlock(__m512i a, __m512i base, __m512i d, __m512i h16,
+// alpha lanes get, d the destination, keep 255 - grey in both bytes of each
+// word. With x = d * (255 - grey), the high half of (d << 8) * keep is
+// y = x + (x >> 8) (see GreyMappingKernels.h) without a separate multiply,
+// shift and add.
+VORN_AVX512 inline __m512i BlendBlock(__m512i a, __m512i base, __m512i d, __m512i keep,
                                       __m512i lambda, const Table& log16, __m512i highMask) {
-  const __m512i lowByte = _mm512_set1_epi16(0x00FF);
+  const __m512i highByte = _mm512_set1_epi16(static_cast<short>(0xFF00));
   const __m512i allOnes = _mm512_set1_epi8(-1);
-  const __m512i xe = _mm512_mullo_epi16(_mm512_and_si512(d, lowByte), h16);
-  const __m512i xo = _mm512_mullo_epi16(_mm512_srli_epi16(d, 8), h16);
-  const __m512i ye = _mm512_add_epi16(xe, _mm512_srli_epi16(xe, 8));
-  const __m512i yo = _mm512_add_epi16(xo, _mm512_srli_epi16(xo, 8));
+  const __m512i ye = _mm512_mulhi_epu16(_mm512_slli_epi16(d, 8), keep);
+  const __m512i yo = _mm512_mulhi_epu16(_mm512_and_si512(d, highByte), keep);
   const __m512i n =
       _mm512_mask_blend_epi8(kOdd, _mm512_srli_epi16(ye, 8), yo);  // less one if whole
   const __m512i low = _mm512_mask_blend_epi8(kOdd, ye, _mm512_slli_epi16(yo, 8));
@@ -151,7 +150,11 @@ VORN_AVX512 inline void Step(unsigned char* px, const unsigned char* mask, std::
     if constexpr (alpha == AlphaMode::kMap)
       alphas = _mm512_movm_epi8(_mm512_test_epi8_mask(packed, packed));
     __m512i lambda = _mm512_setzero_si512();
-    if constexpr (colours == ColourMode::kMap) lambda = Lookup(t.lambdas, packed, high);
+    __m512i inverse = _mm512_setzero_si512();  // 255 - grey
+    if constexpr (colours == ColourMode::kMap) {
+      lambda = Lookup(t.lambdas, packed, high);
+      inverse = _mm512_sub_epi8(_mm512_set1_epi8(-1), packed);
+    }
     for (int v = 0; v < 4 && in4[v]; ++v) {
       unsigned char* out = px + 4 * (i + 16 * v);
       const __m512i own = _mm512_load_si512(ix.own[v]);
@@ -163,12 +166,10 @@ VORN_AVX512 inline void Step(unsigned char* px, const unsigned char* mask, std::
         Store<full>(out, alpha == AlphaMode::kKeep ? in4[v] & kColour : in4[v], a);
       } else {
         const __m512i d = full ? _mm512_loadu_si512(out) : _mm512_maskz_loadu_epi8(in4[v], out);
-        const __m512i h16 =
-            _mm512_sub_epi16(_mm512_set1_epi16(0x00FF),
-                             _mm512_shuffle_epi8(grey[v], _mm512_load_si512(ix.wordGrey)));
+        const __m512i keep = _mm512_maskz_permutexvar_epi8(~0ull, own, inverse);
         const __m512i lambdaPx = _mm512_maskz_permutexvar_epi8(~0ull, own, lambda);
         Store<full>(out, in4[v],
-                    BlendBlock(a, alpha == AlphaMode::kKeep ? d : a, d, h16, lambdaPx, t.log16,
+                    BlendBlock(a, alpha == AlphaMode::kKeep ? d : a, d, keep, lambdaPx, t.log16,
                                t.highMask));
       }
     }
