@@ -25,26 +25,27 @@ bool HasAvx512Path() {
 namespace {
 #define VORN_AVX512 __attribute__((target("avx512f,avx512bw,avx512vbmi")))
 
+constexpr __mmask64 kGreen = 0x2222222222222222ull;
 constexpr __mmask64 kBlue = 0x4444444444444444ull;
 constexpr __mmask64 kColour = 0x7777777777777777ull;
 constexpr __mmask64 kAlpha = 0x8888888888888888ull;
 constexpr __mmask64 kOdd = 0xAAAAAAAAAAAAAAAAull;
 
 // Byte indexes. Packing the grey dwords of four 16-pixel blocks with two
-// saturating packs puts pixel j of block v at byte 16 * (j / 4) + 4 * v + j % 4.
+// saturating packs puts pixel j of block v at byte 16 * (j / 4) + 4 * v + j % 4:
+// in the same 128-bit lane as the pixel's own bytes in the block, so that
+// in-lane byte shuffles, cheaper than permutes across the register, spread
+// whatever is looked up by packed grey level.
 struct Indexes {
-  alignas(64) unsigned char spread[64];       // pixel p's r, g, b from mask bytes 3p..3p+2
-  alignas(64) unsigned char widen[64];        // grey of dword p to its four bytes
-  alignas(64) unsigned char own[4][64];       // each byte of block v's pixel: its packed byte
-  alignas(64) unsigned char redGreen[4][64];  // the same, the green bytes from a second table
+  alignas(64) unsigned char spread[64];  // pixel p's r, g, b from mask bytes 3p..3p+2
+  alignas(64) unsigned char widen[64];   // grey of dword p to its four bytes
+  alignas(64) unsigned char own[4][64];  // each byte of block v's pixel: its packed byte in-lane
   Indexes() {
     for (int i = 0; i < 64; ++i) {
       spread[i] = static_cast<unsigned char>(i % 4 == 3 ? 0 : (i / 4) * 3 + i % 4);
       widen[i] = static_cast<unsigned char>((i % 16) / 4 * 4);
       for (int v = 0; v < 4; ++v) {
-        const int j = i / 4, packed = 16 * (j / 4) + 4 * v + j % 4;
-        own[v][i] = static_cast<unsigned char>(packed);
-        redGreen[v][i] = static_cast<unsigned char>(i % 4 == 1 ? 64 + packed : packed);
+        own[v][i] = static_cast<unsigned char>(4 * v + (i / 4) % 4);
       }
     }
   }
@@ -158,16 +159,16 @@ VORN_AVX512 inline void Step(unsigned char* px, const unsigned char* mask, std::
     for (int v = 0; v < 4 && in4[v]; ++v) {
       unsigned char* out = px + 4 * (i + 16 * v);
       const __m512i own = _mm512_load_si512(ix.own[v]);
-      __m512i a = _mm512_permutex2var_epi8(r, _mm512_load_si512(ix.redGreen[v]), g);
-      a = _mm512_mask_permutexvar_epi8(a, kBlue, own, b);
-      if constexpr (alpha != AlphaMode::kKeep)
-        a = _mm512_mask_permutexvar_epi8(a, kAlpha, own, alphas);
+      __m512i a = _mm512_shuffle_epi8(r, own);
+      a = _mm512_mask_shuffle_epi8(a, kGreen, g, own);
+      a = _mm512_mask_shuffle_epi8(a, kBlue, b, own);
+      if constexpr (alpha != AlphaMode::kKeep) a = _mm512_mask_shuffle_epi8(a, kAlpha, alphas, own);
       if constexpr (colours == ColourMode::kSet) {
         Store<full>(out, alpha == AlphaMode::kKeep ? in4[v] & kColour : in4[v], a);
       } else {
         const __m512i d = full ? _mm512_loadu_si512(out) : _mm512_maskz_loadu_epi8(in4[v], out);
-        const __m512i keep = _mm512_maskz_permutexvar_epi8(~0ull, own, inverse);
-        const __m512i lambdaPx = _mm512_maskz_permutexvar_epi8(~0ull, own, lambda);
+        const __m512i keep = _mm512_shuffle_epi8(inverse, own);
+        const __m512i lambdaPx = _mm512_shuffle_epi8(lambda, own);
         Store<full>(out, in4[v],
                     BlendBlock(a, alpha == AlphaMode::kKeep ? d : a, d, keep, lambdaPx, t.log16,
                                t.highMask));
