@@ -1,7 +1,7 @@
 #pragma once
 // Control groups: the registry and dispatcher every control reports to, and
 // the base of every hint.
-#include <deque>
+#include <set>
 #include <vector>
 
 #include "vornhost/Types.h"
@@ -37,6 +37,21 @@ class VornControlGroup {
     VirtualControl* control = nullptr;
     VornString name = "NONAME";
   };
+  // Orders entries by id and finds them by a bare id.
+  struct ById {
+    using is_transparent = void;
+    template <class A, class B>
+    bool operator()(const A& a, const B& b) const {
+      return Key(a) < Key(b);
+    }
+    static unsigned int Key(unsigned int id) { return id; }
+    template <class E>
+    static unsigned int Key(const E& e) {
+      return e.id;
+    }
+  };
+  using ControlMap = std::set<VornControlEntry, ById>;
+  using VirtualMap = std::set<VirtualControlEntry, ById>;
 
   VornControlGroup() = default;
   VornControlGroup(const VornControlGroup&) = delete;
@@ -100,15 +115,15 @@ class VornControlGroup {
   bool DeRegisterById(unsigned int id, bool keep);
   bool InsertControl(unsigned int id, VornControl* control, VornString name, bool own);
   bool InsertVirtual(unsigned int id, VirtualControl* control, bool own);
-  bool EraseControlEntry(std::deque<VornControlEntry>::iterator it, bool keep);
-  bool EraseVirtualEntry(std::deque<VirtualControlEntry>::iterator it, bool keep);
+  bool EraseControlEntry(ControlMap::iterator it, bool keep);
+  bool EraseVirtualEntry(VirtualMap::iterator it, bool keep);
 
   VornControlGroup* m_pControlGroup = nullptr;  // parent; not owned
-  // The two by-id maps: entries kept sorted by ascending id. A deque, so that
-  // wx's automatic ids (each below the last) and explicit rising ids both
-  // join at an end.
-  std::deque<VornControlEntry> m_controlsById;
-  std::deque<VirtualControlEntry> m_virtualControlsById;
+  // The two by-id maps, in ascending id order. Ordered sets: wx's automatic
+  // ids come each below the last, which a sorted array pays for with a move
+  // of every entry, and a set costs nothing until its first member.
+  ControlMap m_controlsById;
+  VirtualMap m_virtualControlsById;
   std::vector<VornControl*> m_controls;
   std::vector<VirtualControl*> m_virtualControls;
   std::vector<VornControlGroup*> m_groups;    // not owned

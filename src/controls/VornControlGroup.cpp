@@ -15,44 +15,31 @@
 
 namespace {
 
-template <class Entry>
-typename std::deque<Entry>::iterator LowerBound(std::deque<Entry>& map, unsigned int id) {
-  return std::lower_bound(map.begin(), map.end(), id,
-                          [](const Entry& e, unsigned int key) { return e.id < key; });
-}
-
-template <class Entry>
-typename std::deque<Entry>::iterator FindId(std::deque<Entry>& map, unsigned int id) {
-  auto it = LowerBound(map, id);
-  return it != map.end() && it->id == id ? it : map.end();
+template <class Map>
+typename Map::iterator FindId(Map& map, unsigned int id) {
+  return map.find(id);
 }
 
 // Inserts in id order; false when the id is taken.
-template <class Entry>
-bool InsertSorted(std::deque<Entry>& map, Entry entry) {
-  auto it = LowerBound(map, entry.id);
-  if (it != map.end() && it->id == entry.id) return false;
-  map.insert(it, std::move(entry));
-  return true;
+template <class Map, class Entry>
+bool InsertSorted(Map& map, Entry entry) {
+  return map.insert(std::move(entry)).second;
 }
 
 // Walks a by-id map in ascending id order while f may register or
 // deregister members: after any change the walk resumes after the id just
 // visited instead of trusting the position. f must read what it needs from
 // the entry before calling out.
-template <class Entry, class F>
-void WalkById(std::deque<Entry>& map, const unsigned int& generation, F f) {
-  for (std::size_t i = 0; i < map.size();) {
-    const unsigned int id = map[i].id;
+template <class Map, class F>
+void WalkById(Map& map, const unsigned int& generation, F f) {
+  for (auto it = map.begin(); it != map.end();) {
+    const unsigned int id = it->id;
     const unsigned int before = generation;
-    f(map[i]);
+    f(*it);
     if (generation != before)
-      i = static_cast<std::size_t>(
-          std::upper_bound(map.begin(), map.end(), id,
-                           [](unsigned int key, const Entry& e) { return key < e.id; }) -
-          map.begin());
+      it = map.upper_bound(id);
     else
-      ++i;
+      ++it;
   }
 }
 
@@ -112,10 +99,10 @@ std::string Address(const void* p) {
   return buf;
 }
 
-template <class Entry>
-void DumpEntries(const char* heading, const std::deque<Entry>& map) {
+template <class Map>
+void DumpEntries(const char* heading, const Map& map) {
   dprintf(heading, static_cast<int>(map.size()));
-  for (const Entry& entry : map) {
+  for (const auto& entry : map) {
     const std::string line = "  ID = " + std::to_string(entry.id) +
                              ", mce: id = " + std::to_string(entry.id) +
                              ", own = " + (entry.own ? "1" : "0") +
@@ -134,10 +121,10 @@ VornControlGroup::~VornControlGroup() {
 }
 
 bool VornControlGroup::ShowAll(void* context, bool show, VornControlHint* hint) {
-  WalkById(m_controlsById, m_generation, [&](VornControlEntry& e) {
+  WalkById(m_controlsById, m_generation, [&](const VornControlEntry& e) {
     if (e.control) e.control->Show(show);
   });
-  WalkById(m_virtualControlsById, m_generation, [&](VirtualControlEntry& e) {
+  WalkById(m_virtualControlsById, m_generation, [&](const VirtualControlEntry& e) {
     if (e.control) e.control->Show(show);
   });
   for (std::size_t i = 0; i < m_controls.size(); ++i) m_controls[i]->Show(show);
@@ -180,10 +167,10 @@ bool VornControlGroup::SetEnableAll(void* context, bool enable, VornControlHint*
     c->SetEnabled(enable);
     c->Refresh(false);
   };
-  WalkById(m_controlsById, m_generation, [&](VornControlEntry& e) {
+  WalkById(m_controlsById, m_generation, [&](const VornControlEntry& e) {
     if (e.control) enableControl(e.control);
   });
-  WalkById(m_virtualControlsById, m_generation, [&](VirtualControlEntry& e) {
+  WalkById(m_virtualControlsById, m_generation, [&](const VirtualControlEntry& e) {
     if (e.control) enableVirtual(e.control);
   });
   for (std::size_t i = 0; i < m_controls.size(); ++i) enableControl(m_controls[i]);
@@ -207,7 +194,7 @@ bool VornControlGroup::SetEnableControl(unsigned int id, bool enable, VornContro
 }
 
 bool VornControlGroup::Update(unsigned int id, VornControl* source, VornControlHint* hint) {
-  WalkById(m_controlsById, m_generation, [&](VornControlEntry& e) {
+  WalkById(m_controlsById, m_generation, [&](const VornControlEntry& e) {
     if (e.control) e.control->OnUpdate(id, source, hint);
   });
   for (std::size_t i = 0; i < m_controls.size(); ++i) m_controls[i]->OnUpdate(id, source, hint);
@@ -270,7 +257,7 @@ bool VornControlGroup::RegisterOwner(unsigned int id, VirtualControl* control) {
   return InsertVirtual(id, control, true);
 }
 
-bool VornControlGroup::EraseControlEntry(std::deque<VornControlEntry>::iterator it, bool keep) {
+bool VornControlGroup::EraseControlEntry(ControlMap::iterator it, bool keep) {
   const VornControlEntry entry = *it;
   m_controlsById.erase(it);
   ++m_generation;
@@ -281,7 +268,7 @@ bool VornControlGroup::EraseControlEntry(std::deque<VornControlEntry>::iterator 
   return true;
 }
 
-bool VornControlGroup::EraseVirtualEntry(std::deque<VirtualControlEntry>::iterator it, bool keep) {
+bool VornControlGroup::EraseVirtualEntry(VirtualMap::iterator it, bool keep) {
   const VirtualControlEntry entry = *it;
   m_virtualControlsById.erase(it);
   ++m_generation;
@@ -411,7 +398,7 @@ bool VornControlGroup1ofN::SetOnControl(unsigned int id, bool on, VornControlHin
 }
 
 bool VornControlGroup1ofN::SetOnAll(VornControl* on, bool value, VornControlHint*) {
-  WalkById(m_controlsById, m_generation, [&](VornControlEntry& e) {
+  WalkById(m_controlsById, m_generation, [&](const VornControlEntry& e) {
     auto* button = dynamic_cast<VornButton*>(e.control);
     if (!button) return;
     if (e.control == on)
@@ -423,7 +410,7 @@ bool VornControlGroup1ofN::SetOnAll(VornControl* on, bool value, VornControlHint
 }
 
 bool VornControlGroup1ofN::SetOnAll(VirtualControl* on, bool value, VornControlHint*) {
-  WalkById(m_virtualControlsById, m_generation, [&](VirtualControlEntry& e) {
+  WalkById(m_virtualControlsById, m_generation, [&](const VirtualControlEntry& e) {
     auto* button = dynamic_cast<VirtualButton*>(e.control);
     if (!button) return;
     if (e.control == on)
