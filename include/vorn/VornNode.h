@@ -252,6 +252,9 @@ class VornBranchNode : public VornLeafNode {
   // parent has none.
   bool CreateWindow();
   bool ParentHasWindow() const;
+  // Whether the tree has its window: then the header gets one once it and
+  // the headers above it are placed in view.
+  bool TreeHasWindow() const;
 
   bool m_bExpanded = false;
   std::unique_ptr<VornVUIBranchControl> m_pControl;

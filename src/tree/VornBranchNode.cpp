@@ -37,6 +37,11 @@ bool VornBranchNode::HasWindow() const {
   return m_pControl && m_pControl->GetHandle();
 }
 
+bool VornBranchNode::TreeHasWindow() const {
+  VornTreeRootNode* root = m_pParent ? m_pParent->GetRoot() : nullptr;
+  return root && root->GetVornVUIControl() && root->GetVornVUIControl()->GetHandle();
+}
+
 bool VornBranchNode::ParentHasWindow() const {
   VornVUIControl* parentControl = m_pParent ? m_pParent->GetVornVUIControl() : nullptr;
   return parentControl && parentControl->GetHandle();
@@ -72,7 +77,7 @@ int VornBranchNode::GetAllignmentPoint() {
 void VornBranchNode::SetDisplay(int x1, int y1, int x2, int y2) {
   // The header may have no window yet (it is made when placed in view), but
   // it must be able to get one.
-  VORN_ASSERT_TEXT(m_pControl && (m_pControl->GetHandle() || ParentHasWindow()), kWindowExists);
+  VORN_ASSERT_TEXT(m_pControl && (m_pControl->GetHandle() || TreeHasWindow()), kWindowExists);
   VORN_ASSERT_TEXT((x2 - x1) == this->GetWidth(), kBranchWidth);
   VORN_ASSERT_TEXT((y2 - y1) == this->GetHeight(), kBranchHeight);
   m_x1 = x1;
@@ -111,7 +116,7 @@ VornVUIControl* VornBranchNode::GetVornVUIControl() {
 }
 
 void VornBranchNode::Refresh() {
-  VORN_ASSERT_TEXT(m_pControl && (m_pControl->GetHandle() || ParentHasWindow()), kWindowExists);
+  VORN_ASSERT_TEXT(m_pControl && (m_pControl->GetHandle() || TreeHasWindow()), kWindowExists);
   if (!m_pControl) return;
   if (!m_pControl->GetHandle()) {
     // Out of view, or under a parent without a window: stays a node.

@@ -84,6 +84,8 @@ void SoakWorld::CreateControl() {
   m_lastStep += std::string(" ") + family.name;
   VornControl* control =
       family.create(m_skin, parent, m_random.Below(500), m_random.Below(400), id, *group, m_random);
+  // A group the control made for itself may sit where a destroyed one was.
+  if (control) m_deadGroups.erase(control->GetGroup());
   m_controls.push_back({control, &family});
 }
 

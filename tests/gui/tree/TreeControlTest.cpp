@@ -179,6 +179,9 @@ TEST(TreeControl, ALongTreeMakesHeaderWindowsOnlyAsTheyComeIntoView) {
   TreeFixture f(300, 200);
   std::vector<VornBranchNode*> branches;
   for (int i = 0; i < 30; ++i) branches.push_back(TreeFixture::AddBranch(f.Root()));
+  // An open branch far down holds a branch of its own: neither has a window.
+  VornBranchNode* nested = TreeFixture::AddBranch(branches[28]->GetTree());
+  branches[28]->Expand();
   f.tree->RefreshTree();
   PumpEvents();
   // Rows of 36 in a 200 view, with a row of slack below: rows 0..6.
@@ -200,6 +203,7 @@ TEST(TreeControl, ALongTreeMakesHeaderWindowsOnlyAsTheyComeIntoView) {
   f.tree->GetScrollBar()->SetSliderVal(1.0, true);
   PumpEvents();
   ASSERT_TRUE(last->HasWindow());
+  EXPECT_TRUE(nested->HasWindow());
   EXPECT_EQ(TreeFixture::WindowPos(last).y, 200 - 36);
   EXPECT_FALSE(branches[15]->HasWindow());
   // Expanding a row made late works as for any other.
