@@ -35,7 +35,8 @@ wxSize MeasureText(const wxString& text, const wxFont& font) {
     fonts.clear();
   }
   // One DC for every measurement: making one costs more than measuring.
-  static wxMemoryDC* dc = new wxMemoryDC(*new wxBitmap(1, 1));
+  static wxBitmap* scratch = new wxBitmap(1, 1);
+  static wxMemoryDC* dc = new wxMemoryDC(*scratch);
   dc->SetFont(used);
   wxCoord w = 0, h = 0;
   dc->GetTextExtent(text, &w, &h);

@@ -2,6 +2,7 @@
 // message without reporting it back, so one parameter's editors (a slider
 // and its value box, say) stay in step without echoing each other.
 #include "../controls/edit/EditFormat.h"
+#include "VUITreeSubValue.h"
 #include "VUITreeTexts.h"
 #include "vorn/VUIControls.h"
 #include "vorn/VornAssert.h"
@@ -10,22 +11,6 @@ namespace {
 
 VornString Utf8Of(const wxString& text) {
   return VornString(text.utf8_str().data());
-}
-
-// The value a real or integer message carries; false for neither. A text
-// message is refused with an assertion: numeric editors are only wired to
-// numeric siblings.
-bool NumericValue(VornControlHint* hint, double& out) {
-  if (auto* real = dynamic_cast<RealValMessage*>(hint)) {
-    out = real->m_value;
-    return true;
-  }
-  if (auto* whole = dynamic_cast<IntValMessage*>(hint)) {
-    out = whole->m_value;
-    return true;
-  }
-  VORN_ASSERT_TEXT(dynamic_cast<StringValMessage*>(hint) == nullptr, VUITreeTexts::kTextToNumeric);
-  return false;
 }
 
 }  // namespace
@@ -64,13 +49,13 @@ void VUITreeSubButtonToggle::OnUpdate(unsigned int, VornControl* source, VornCon
 void VUITreeSubSlider::OnUpdate(unsigned int, VornControl* source, VornControlHint* hint) {
   if (source == this || !hint) return;
   double value = 0.0;
-  if (NumericValue(hint, value)) SetValue(value, false);
+  if (vorn_tree::SiblingNumber(hint, value)) SetValue(value, false);
 }
 
 void VUITreeSubThumbWheel::OnUpdate(unsigned int, VornControl* source, VornControlHint* hint) {
   if (source == this || !hint) return;
   double value = 0.0;
-  if (!NumericValue(hint, value)) return;
+  if (!vorn_tree::SiblingNumber(hint, value)) return;
   SetCurrentValue(static_cast<float>(value));
   Refresh(false);
 }

@@ -1,6 +1,6 @@
 #pragma once
-// The number a sibling's value message carries, for the numeric
-// sub-controls of the angle editors.
+// The number a sibling's value message carries, for the tree's numeric
+// sub-controls.
 #include "VUITreeTexts.h"
 #include "vorn/ValInterface.h"
 #include "vorn/VornAssert.h"
