@@ -18,50 +18,31 @@ wxString Hex(const Color& c) {
   return wxString::Format("#%02X%02X%02X", w.Red(), w.Green(), w.Blue());
 }
 
+wxString Describe(VornControlHint* hint) {
+  if (auto* rgb = dynamic_cast<ColourHintCurrentRGB*>(hint))
+    return "ColourHintCurrentRGB " + Hex(rgb->m_colour);
+  if (auto* hsv = dynamic_cast<ColourHintCurrentHSV*>(hint))
+    return wxString::Format("ColourHintCurrentHSV %.3f %.3f %.3f", hsv->m_hue, hsv->m_saturation,
+                            hsv->m_value);
+  if (auto* prev = dynamic_cast<ColourHintPrev*>(hint))
+    return "ColourHintPrev " + Hex(prev->m_colour);
+  return wxString();
+}
+
 // Logs the gestures of the picker's parts and their colour hints under the
 // sender's name, and tells the page when the colour changed.
-class ColourGroup : public VornControlGroup, public MessageReceiver {
+class ColourGroup : public LoggingGroup<VornControlGroup> {
  public:
-  ColourGroup(GalleryLog& log, std::function<void()> changed)
-      : m_log(log), m_changed(std::move(changed)) {
-    Register(static_cast<MessageReceiver*>(this));
+  ColourGroup(GalleryLog& log, std::function<void()> changed) : LoggingGroup(log) {
+    Receiver().describe = Describe;
+    Receiver().described = std::move(changed);
   }
-  ~ColourGroup() override { DeRegister(static_cast<MessageReceiver*>(this)); }
-
-  void SetName(unsigned int id, const wxString& name) { m_names[id] = name; }
-  void ControlSelected(unsigned int id, VornControl*) override { Note("ControlSelected", id); }
-  void ControlUnSelected(unsigned int id, VornControl*) override {
-    Note("ControlUnSelected", id);
+  using LoggingGroup::ControlUnSelected;
+  void ControlUnSelected(unsigned int id, VornControl* control) override {
+    LoggingGroup::ControlUnSelected(id, control);
     if (released) released(id);
   }
   std::function<void(unsigned int id)> released;
-  void OnUpdate(unsigned int id, VornControl*, VornControlHint* hint) override {
-    wxString what;
-    if (auto* rgb = dynamic_cast<ColourHintCurrentRGB*>(hint))
-      what = "ColourHintCurrentRGB " + Hex(rgb->m_colour);
-    else if (auto* hsv = dynamic_cast<ColourHintCurrentHSV*>(hint))
-      what = wxString::Format("ColourHintCurrentHSV %.3f %.3f %.3f", hsv->m_hue, hsv->m_saturation,
-                              hsv->m_value);
-    else if (auto* prev = dynamic_cast<ColourHintPrev*>(hint))
-      what = "ColourHintPrev " + Hex(prev->m_colour);
-    else
-      return;
-    m_log.Add(wxString::Format("Update  %s: %s", Name(id), what));
-    m_changed();
-  }
-
- private:
-  wxString Name(unsigned int id) const {
-    auto it = m_names.find(id);
-    return it != m_names.end() ? it->second : wxString::Format("#%u", id);
-  }
-  void Note(const char* what, unsigned int id) {
-    m_log.Add(wxString::Format("%s  %s", what, Name(id)));
-  }
-
-  GalleryLog& m_log;
-  std::function<void()> m_changed;
-  std::map<unsigned int, wxString> m_names;
 };
 
 class ColourPage : public GalleryPage {

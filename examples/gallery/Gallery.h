@@ -115,6 +115,11 @@ class GalleryReceiver : public MessageReceiver {
   GalleryReceiver(GalleryLog& log, Namer namer) : m_log(log), m_namer(std::move(namer)) {}
   void OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) override;
 
+  // A page whose controls send hints of their own kind: when set, it names
+  // each hint (empty: not logged) and `described` runs after each logged one.
+  std::function<wxString(VornControlHint*)> describe;
+  std::function<void()> described;
+
  private:
   GalleryLog& m_log;
   Namer m_namer;
@@ -139,6 +144,7 @@ class LoggingGroup : public Base {
   ~LoggingGroup() override { MainRegistry(*this).DeRegister(&m_receiver); }
 
   void SetName(unsigned int id, const wxString& name) { m_names[id] = name; }
+  GalleryReceiver& Receiver() { return m_receiver; }
   wxString NameOf(unsigned int id) const {
     auto it = m_names.find(id);
     return it != m_names.end() ? it->second : wxString::Format("#%u", id);

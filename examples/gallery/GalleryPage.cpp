@@ -154,6 +154,13 @@ GalleryPageRegistrar::GalleryPageRegistrar(GalleryPageInfo info) {
 // ---- GalleryReceiver -------------------------------------------------------
 
 void GalleryReceiver::OnUpdate(unsigned int id, VornControl* source, VornControlHint* hint) {
+  if (describe) {
+    const wxString what = describe(hint);
+    if (what.empty()) return;
+    m_log.Add(wxString::Format("Update  %s: %s", m_namer(id), what));
+    if (described) described();
+    return;
+  }
   // Value hints carry id 0; name them after the control that sent them.
   if (id == 0 && source) id = static_cast<unsigned int>(source->GetId());
   wxString what = "VornControlHint";

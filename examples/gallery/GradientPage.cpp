@@ -35,39 +35,12 @@ wxString Describe(VornControlHint* hint) {
 
 // Logs gestures and gradient hints under the control's name and tells the
 // page the gradient may have changed.
-class GradientGroup : public VornControlGroupValue, public MessageReceiver {
+class GradientGroup : public LoggingGroup<VornControlGroupValue> {
  public:
-  GradientGroup(GalleryLog& log, std::function<void()> changed)
-      : m_log(log), m_changed(std::move(changed)) {
-    Register(static_cast<MessageReceiver*>(this));
+  GradientGroup(GalleryLog& log, std::function<void()> changed) : LoggingGroup(log) {
+    Receiver().describe = Describe;
+    Receiver().described = std::move(changed);
   }
-  ~GradientGroup() override { DeRegister(static_cast<MessageReceiver*>(this)); }
-
-  void SetName(unsigned int id, const wxString& name) { m_names[id] = name; }
-  void ControlSelected(unsigned int id, VornControl*) override { Note("ControlSelected", id); }
-  void ControlUnSelected(unsigned int id, VornControl*) override { Note("ControlUnSelected", id); }
-  void ControlDoubleClick(unsigned int id, VornControl*) override {
-    Note("ControlDoubleClick", id);
-  }
-  void OnUpdate(unsigned int id, VornControl*, VornControlHint* hint) override {
-    const wxString what = Describe(hint);
-    if (what.empty()) return;
-    m_log.Add(wxString::Format("Update  %s: %s", Name(id), what));
-    m_changed();
-  }
-
- private:
-  wxString Name(unsigned int id) const {
-    auto it = m_names.find(id);
-    return it != m_names.end() ? it->second : wxString::Format("#%u", id);
-  }
-  void Note(const char* what, unsigned int id) {
-    m_log.Add(wxString::Format("%s  %s", what, Name(id)));
-  }
-
-  GalleryLog& m_log;
-  std::function<void()> m_changed;
-  std::map<unsigned int, wxString> m_names;
 };
 
 class GradientPage : public GalleryPage {
