@@ -383,63 +383,40 @@ void BM_Build(benchmark::State& state) {
   }
 }
 
-template <Leaves kLeaves>
-void BM_TreeExpand(benchmark::State& state) {
+// Toggles one branch in the middle of the scrolled tree open and shut; only
+// the opening (kTimeOpening) or only the closing is measured.
+template <Leaves kLeaves, bool kTimeOpening>
+void BM_TreeToggle(benchmark::State& state) {
   if (!HaveDisplay(state)) return;
   g_leaves = kLeaves;
   TreeSetup s;
   s.ScrollTo(0.5);
   VornBranchNode* branch = s.Branch(kBranches / 2);
   for (auto _ : state) {
+    if (!kTimeOpening) state.PauseTiming();
     s.Click(branch);  // expand
-    state.PauseTiming();
-    s.Click(branch);
-    state.ResumeTiming();
-  }
-}
-
-template <Leaves kLeaves>
-void BM_TreeCollapse(benchmark::State& state) {
-  if (!HaveDisplay(state)) return;
-  g_leaves = kLeaves;
-  TreeSetup s;
-  s.ScrollTo(0.5);
-  VornBranchNode* branch = s.Branch(kBranches / 2);
-  for (auto _ : state) {
-    state.PauseTiming();
-    s.Click(branch);
-    state.ResumeTiming();
+    if (kTimeOpening) state.PauseTiming();
+    if (!kTimeOpening) state.ResumeTiming();
     s.Click(branch);  // collapse
+    if (kTimeOpening) state.ResumeTiming();
   }
 }
 
-void BM_GridExpand(benchmark::State& state) {
+template <bool kTimeOpening>
+void BM_GridToggle(benchmark::State& state) {
   if (!HaveDisplay(state)) return;
   GridSetup s;
   s.ScrollTo(0.5);
   wxPGProperty* category = s.Category(kBranches / 2);
   for (auto _ : state) {
+    if (!kTimeOpening) state.PauseTiming();
     s.grid->Expand(category);
     Paint(s.frame);
-    state.PauseTiming();
+    if (kTimeOpening) state.PauseTiming();
+    if (!kTimeOpening) state.ResumeTiming();
     s.grid->Collapse(category);
     Paint(s.frame);
-    state.ResumeTiming();
-  }
-}
-
-void BM_GridCollapse(benchmark::State& state) {
-  if (!HaveDisplay(state)) return;
-  GridSetup s;
-  s.ScrollTo(0.5);
-  wxPGProperty* category = s.Category(kBranches / 2);
-  for (auto _ : state) {
-    state.PauseTiming();
-    s.grid->Expand(category);
-    Paint(s.frame);
-    state.ResumeTiming();
-    s.grid->Collapse(category);
-    Paint(s.frame);
+    if (kTimeOpening) state.ResumeTiming();
   }
 }
 
@@ -483,19 +460,19 @@ void BM_ScrollStep(benchmark::State& state) {
       ->Unit(benchmark::kMillisecond)              \
       ->Iterations(1);                             \
   VORN_BENCH_TARGET(prefix "/Build", 1.0);         \
-  BENCHMARK(BM_TreeExpand<real>)                   \
+  BENCHMARK(BM_TreeToggle<real, true>)             \
       ->Name(prefix "/Expand")                     \
       ->Unit(benchmark::kMillisecond)              \
       ->Iterations(10);                            \
-  BENCHMARK(BM_GridExpand)                         \
+  BENCHMARK(BM_GridToggle<true>)                   \
       ->Name(prefix "/Expand/baseline")            \
       ->Unit(benchmark::kMillisecond)              \
       ->Iterations(10);                            \
-  BENCHMARK(BM_TreeCollapse<real>)                 \
+  BENCHMARK(BM_TreeToggle<real, false>)            \
       ->Name(prefix "/Collapse")                   \
       ->Unit(benchmark::kMillisecond)              \
       ->Iterations(10);                            \
-  BENCHMARK(BM_GridCollapse)                       \
+  BENCHMARK(BM_GridToggle<false>)                  \
       ->Name(prefix "/Collapse/baseline")          \
       ->Unit(benchmark::kMillisecond)              \
       ->Iterations(10);                            \

@@ -2,6 +2,8 @@
 // The tree editors under test: the default skin loaded once, and a receiver
 // that names the node hints reaching a group ("changing 3", "changed 3",
 // "function 3 1 0", "int 1", "real 0.5").
+#include <gtest/gtest.h>
+
 #include <memory>
 
 #include "TreeTestSupport.h"
@@ -55,6 +57,25 @@ struct LoggedGroup {
   ~LoggedGroup() { group.DeRegister(&hints); }
   NodeHintLog hints;
   VornControlGroup group;
+};
+
+// Sets a control's measured name width, for exact metrics.
+struct NameWidth : VUITreeControlBase {
+  static void Force(VUITreeControlBase* control, int w) { control->*(&NameWidth::m_nameWidth) = w; }
+};
+
+// Editors made on a frame, reporting to a logged tree group.
+class EditorFixture : public ::testing::Test {
+ protected:
+  template <class Editor, class... Args>
+  Editor* Make(Args&&... args) {
+    auto* e = new Editor(&Skin(), std::forward<Args>(args)...);
+    e->Create(frame.Get(), ++lastId, &tree.group);
+    return e;
+  }
+  LoggedGroup tree;
+  TestFrame frame{wxSize(700, 300)};
+  int lastId = 10;
 };
 
 inline std::string TextOf(VornEdit* edit) {

@@ -13,27 +13,11 @@ namespace {
 using namespace treetest;
 using PT = VUITreeTextEdits;
 
-// Sets a control's measured name width, for exact metrics.
-struct NameWidth : VUITreeControlBase {
-  static void Force(VUITreeControlBase* control, int w) { control->*(&NameWidth::m_nameWidth) = w; }
-};
-
 bool Near(double a, double b) {
   return std::fabs(a - b) < 1e-12;
 }
 
-class TreeEditorsTest : public ::testing::Test {
- protected:
-  template <class Editor, class... Args>
-  Editor* Make(Args&&... args) {
-    auto* e = new Editor(&Skin(), std::forward<Args>(args)...);
-    e->Create(frame.Get(), ++lastId, &tree.group);
-    return e;
-  }
-  LoggedGroup tree;
-  TestFrame frame{wxSize(700, 300)};
-  int lastId = 10;
-};
+using TreeEditorsTest = EditorFixture;
 
 TEST_F(TreeEditorsTest, MetricsFollowTheNameWidthAndTheEditor) {
   struct Case {

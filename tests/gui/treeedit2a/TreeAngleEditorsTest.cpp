@@ -9,22 +9,7 @@ namespace {
 
 using namespace treetest;
 
-struct NameWidth : VUITreeControlBase {
-  static void Force(VUITreeControlBase* control, int w) { control->*(&NameWidth::m_nameWidth) = w; }
-};
-
-class TreeAngleEditorsTest : public ::testing::Test {
- protected:
-  template <class Editor, class... Args>
-  Editor* Make(Args&&... args) {
-    auto* e = new Editor(&Skin(), std::forward<Args>(args)...);
-    e->Create(frame.Get(), ++lastId, &tree.group);
-    return e;
-  }
-  LoggedGroup tree;
-  TestFrame frame{wxSize(700, 300)};
-  int lastId = 10;
-};
+using TreeAngleEditorsTest = EditorFixture;
 
 TEST_F(TreeAngleEditorsTest, MetricsFollowTheNameWidthAndTheEditor) {
   const struct {

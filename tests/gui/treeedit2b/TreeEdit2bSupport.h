@@ -19,11 +19,6 @@ class ButtonHintLog : public NodeHintLog {
   }
 };
 
-// Sets a control's measured name width, for exact metrics.
-struct NameWidth : VUITreeControlBase {
-  static void Force(VUITreeControlBase* control, int w) { control->*(&NameWidth::m_nameWidth) = w; }
-};
-
 // A tree on a frame whose host group logs every hint.
 struct TreeOnFrame {
   TreeOnFrame() {
