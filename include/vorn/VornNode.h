@@ -81,6 +81,9 @@ class VornNode {
   // Whether rows y1..y2 of a child of parent (in parent's layout) are in or
   // near the view: always for a level below the root.
   static bool InView(VornNode* parent, int y1, int y2);
+  // The rows of parent's layout in or near the view; false when every row
+  // counts as in view (a level below the root).
+  static bool ViewSpan(VornNode* parent, int& top, int& bottom);
 
   int m_nodeID = -1;              // -1 until registered
   VornNode* m_pParent = nullptr;  // not owned

@@ -29,8 +29,17 @@ VornBranchNode::VornBranchNode(VornTreeNode* parent, VornString name) {
   // A header is made at once only while the tree still ends inside the view
   // (where this branch will show when appended); else when first placed in
   // view, so that a long tree costs windows only for what is seen.
-  if (parent->IsVisible() && InView(parent, parent->GetHeight(), parent->GetHeight() + GetHeight()))
-    CreateWindow();
+  bool make = parent->IsVisible();
+  int top = 0, bottom = 0;
+  if (make && ViewSpan(parent, top, bottom)) {
+    // The level's end, counted no further than the view's: building a long
+    // tree stays linear.
+    int end = 0;
+    for (int i = 0; i < parent->GetSize() && end < bottom; ++i)
+      end += parent->GetAtPos(i)->GetHeight();
+    make = end < bottom && end + GetHeight() > top;
+  }
+  if (make) CreateWindow();
 }
 
 bool VornBranchNode::HasWindow() const {

@@ -42,17 +42,22 @@ void VornNode::RepaintWindow(VornNode* parent, VornControl* control) {
   control->wxWindow::Refresh(false);
 }
 
-bool VornNode::InView(VornNode* parent, int y1, int y2) {
+bool VornNode::ViewSpan(VornNode* parent, int& top, int& bottom) {
   VornTreeRootNode* root = parent ? parent->GetRoot() : nullptr;
-  if (!root || root != parent || !root->GetTreeControl()) return true;
+  if (!root || root != parent || !root->GetTreeControl()) return false;
   VornControl* view = root->GetVornVUIControl();
-  if (!view || !view->GetHandle()) return true;
+  if (!view || !view->GetHandle()) return false;
   // A row's worth of slack each side, so that a small scroll finds its
   // neighbours ready.
   constexpr int kSlack = 36;
-  const int top = root->GetTreeControl()->GetScrollPos() - kSlack;
-  const int bottom = root->GetTreeControl()->GetScrollPos() + view->wxWindow::GetClientSize().y + kSlack;
-  return y2 > top && y1 < bottom;
+  top = root->GetTreeControl()->GetScrollPos() - kSlack;
+  bottom = root->GetTreeControl()->GetScrollPos() + view->wxWindow::GetClientSize().y + kSlack;
+  return true;
+}
+
+bool VornNode::InView(VornNode* parent, int y1, int y2) {
+  int top = 0, bottom = 0;
+  return !ViewSpan(parent, top, bottom) || (y2 > top && y1 < bottom);
 }
 
 VornLeafNode::~VornLeafNode() = default;
