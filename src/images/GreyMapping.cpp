@@ -27,8 +27,8 @@ unsigned char Blend(int a, int d, double keep) {
 const BlendRule& Rule() {
   static const BlendRule rule = [] {
     BlendRule r;
-    for (int j = 0; j < 256; ++j)
-      r.log16[j] = static_cast<unsigned char>(std::min(255.0, std::floor(16 * std::log2(j + 1.0))));
+    for (int j = 1; j < 256; ++j)
+      r.log16[j] = static_cast<unsigned char>(std::floor(16 * std::log2(j)));
     for (int j = 0; j < 64; ++j) {
       const int e = (j >> 2) - 2;
       r.highMask[j] = static_cast<unsigned char>(e < 0 ? 0xFF : e >= 8 ? 0 : 256 - (1 << e));
@@ -55,7 +55,7 @@ const BlendRule& Rule() {
       for (int lambda = 1; lambda < 128 && !found; ++lambda) {
         bool agrees = true;
         for (int i = 0; i < count && agrees; ++i) {
-          const int e = ((r.log16[wholeN[i] - 1] + lambda) >> 4) - 2;
+          const int e = ((r.log16[wholeN[i]] + lambda) >> 4) - 2;
           const int limit = e < 0 ? 1 : 1 << std::min(e, 8);
           const int last = std::min(255, limit - wholeN[i]);
           agrees = std::max(last, -1) == lastA[i];

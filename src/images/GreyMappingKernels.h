@@ -30,21 +30,20 @@ struct GreyTables {
   std::array<double, 256> keep{};                   // map: 1 - t
 };
 
-// The blend trunc(a + d * (1 - t)) in integers. With x = d * (255 - grey)
-// and y = x + (x >> 8), y >> 8 is x / 255 rounded down, less one where x is a
-// nonzero multiple of 255 ("whole"), and only then is y's low byte 255.
-// Where x / 255 is not whole it lies at least 1/255 from a whole number,
-// far beyond the rounding of the doubles, so a + x / 255 rounded down is
-// exact. Where it is whole (n) the double product can land just below n,
-// and the result is one less than a + n exactly while a + n <= 2^e, with
-//   e = ((log16[n - 1] + lambda[grey]) >> 4) - 2,
+// The blend trunc(a + d * (1 - t)) in integers. With x = d * (255 - grey),
+// n = x / 255 rounded down gives it as a + n wherever x is not a multiple of
+// 255: x / 255 then lies at least 1/255 from a whole number, far beyond the
+// rounding of the doubles. Where x is a nonzero multiple ("whole") the double
+// product can land just below n, and the result is one less than a + n
+// exactly while a + n <= 2^e, with
+//   e = ((log16[n] + lambda[grey]) >> 4) - 2,
 // applied as: no carry in a + n - 1 and (a + n - 1) & highMask[...] == 0.
 // lambda is 0 for the grey levels where it never happens. The lambdas are
 // found once from the double blend itself and checked against it for every
 // whole case and every a; were any missing, the integer forms stay off.
 struct BlendRule {
   alignas(64) std::array<unsigned char, 256> lambda{};
-  alignas(64) std::array<unsigned char, 256> log16{};    // by n - 1: floor(16 log2 n)
+  alignas(64) std::array<unsigned char, 256> log16{};    // by n: floor(16 log2 n), 0 for 0
   alignas(64) std::array<unsigned char, 64> highMask{};  // by (log16 + lambda) >> 2
   bool usable = true;
 };
