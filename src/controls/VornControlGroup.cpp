@@ -23,7 +23,7 @@ typename Map::iterator FindId(Map& map, unsigned int id) {
 // Inserts in id order; false when the id is taken.
 template <class Map, class Entry>
 bool InsertSorted(Map& map, Entry entry) {
-  return map.insert(std::move(entry)).second;
+  return map.insert(std::move(entry));
 }
 
 // Walks a by-id map in ascending id order while f may register or

@@ -6,6 +6,8 @@
 
 #include <cstdio>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "ControlTestSupport.h"
 
@@ -51,6 +53,21 @@ TEST_F(ControlGroup, UpdateVisitsMembersInTheFixedOrder) {
   group.DeRegister(&sub);
   group.DeRegister(&idless);
   group.DeRegister(&virtualIdless);
+}
+
+// Ids arrive below the first, above the last and in between, and leave from
+// both ends and the middle: the walk stays in id order.
+TEST_F(ControlGroup, ByIdMembersStayInIdOrderWhateverTheRegistrationOrder) {
+  VornControlGroup group;
+  std::vector<std::unique_ptr<RecordingControl>> controls;
+  for (int id : {50, 40, 60, 45, 30, 70, 55, 20, 65, 35, 41})
+    controls.push_back(std::make_unique<RecordingControl>(frame.Get(), id, &group, &log,
+                                                          "id" + std::to_string(id)));
+  for (unsigned int id : {20u, 70u, 45u, 31u}) group.DeRegister(id, true);
+  CountingHint hint;
+  group.Update(1, nullptr, &hint);
+  EXPECT_EQ(log, EventLog({"update id30", "update id35", "update id40", "update id41",
+                           "update id50", "update id55", "update id60", "update id65"}));
 }
 
 TEST_F(ControlGroup, UpdateRereadsItsListsAsMembersComeAndGo) {
