@@ -105,7 +105,9 @@ std::vector<SoakFamily> SoakTableAndTreeFamilies();
 
 // A short random text: ASCII, digits, blanks, line feeds and some UTF-8.
 VornString SoakText(SoakRandom& random);
-// One mouse event as wx delivers it to target.
+// A mouse event for target with position and left button only, and the
+// same sent as wx delivers it.
+wxMouseEvent SoakMouseEvent(wxWindow* target, wxEventType type, int x, int y, bool left);
 void SoakMouse(wxWindow* target, wxEventType type, int x, int y, bool left);
 // The pointer enters target at (x, y), presses and releases there.
 void SoakClick(wxWindow* target, int x, int y);

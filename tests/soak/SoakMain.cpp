@@ -36,13 +36,18 @@ VornString SoakText(SoakRandom& r) {
   return text;
 }
 
-void SoakMouse(wxWindow* target, wxEventType type, int x, int y, bool left) {
+wxMouseEvent SoakMouseEvent(wxWindow* target, wxEventType type, int x, int y, bool left) {
   wxMouseEvent e(type);
   e.SetEventObject(target);
   e.SetId(target->GetId());
   e.m_x = x;
   e.m_y = y;
   e.m_leftDown = left;
+  return e;
+}
+
+void SoakMouse(wxWindow* target, wxEventType type, int x, int y, bool left) {
+  wxMouseEvent e = SoakMouseEvent(target, type, x, y, left);
   target->GetEventHandler()->ProcessEvent(e);
 }
 

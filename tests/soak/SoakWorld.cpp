@@ -195,12 +195,7 @@ SoakGroup* SoakWorld::PickGroup() {
 }
 
 void SoakWorld::SendMouse(wxWindow* target, wxEventType type, int x, int y, bool left) {
-  wxMouseEvent e(type);
-  e.SetEventObject(target);
-  e.SetId(target->GetId());
-  e.m_x = x;
-  e.m_y = y;
-  e.m_leftDown = left;
+  wxMouseEvent e = SoakMouseEvent(target, type, x, y, left);
   e.m_shiftDown = m_random.Chance(10);
   e.m_altDown = m_random.Chance(5);
   e.m_controlDown = m_random.Chance(5);
